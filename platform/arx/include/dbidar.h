@@ -1,0 +1,7 @@
+// AcDbObjectIdArray.
+#pragma once
+
+#include "acarray.h"
+#include "dbid.h"
+
+typedef AcArray<AcDbObjectId> AcDbObjectIdArray;
