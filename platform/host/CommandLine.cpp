@@ -1,0 +1,53 @@
+#include "host/CommandLine.h"
+
+#include <cwctype>
+
+namespace arxhost
+{
+namespace
+{
+
+std::wstring Lower(std::wstring text)
+{
+    for (wchar_t& character : text)
+        character = static_cast<wchar_t>(std::towlower(character));
+    return text;
+}
+
+// "/ld" and "-ld" are switches, "/home/a.dxf" is a path.
+bool IsSwitch(const std::wstring& argument)
+{
+    if (argument.size() < 2 || (argument[0] != L'/' && argument[0] != L'-'))
+        return false;
+    return argument.find_first_of(L"/\\.", 1) == std::wstring::npos;
+}
+
+} // namespace
+
+HostArguments ReadArguments(const std::vector<std::wstring>& arguments)
+{
+    HostArguments read;
+    for (std::size_t i = 0; i < arguments.size() && read.error.empty(); ++i)
+    {
+        if (!IsSwitch(arguments[i]))
+        {
+            read.drawings.push_back(arguments[i]);
+            continue;
+        }
+        const std::wstring name = Lower(arguments[i].substr(1));
+        const bool hasValue = i + 1 < arguments.size() && !IsSwitch(arguments[i + 1]);
+        if (name != L"ld" && name != L"b")
+            read.error = L"未知的启动参数：" + arguments[i];
+        else if (!hasValue)
+            read.error = L"启动参数 " + arguments[i] + L" 后面缺少文件名";
+        else if (name == L"ld")
+            read.modules.push_back(arguments[++i]);
+        else if (!read.script.empty())
+            read.error = L"启动参数 " + arguments[i] + L" 只能出现一次";
+        else
+            read.script = arguments[++i];
+    }
+    return read;
+}
+
+} // namespace arxhost
