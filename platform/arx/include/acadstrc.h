@@ -77,7 +77,8 @@ enum ErrorStatus
     eNotInContext,
     eDocumentSwitchDisabled,
     eLockViolation,
-    eUserBreak
+    eUserBreak,
+    eNotThatKindOfClass
 };
 
 } // namespace Acad
