@@ -1,0 +1,8 @@
+// XTP_API marks what xtp.dll offers.
+#pragma once
+
+#ifdef xtp_EXPORTS
+#define XTP_API __declspec(dllexport)
+#else
+#define XTP_API __declspec(dllimport)
+#endif
