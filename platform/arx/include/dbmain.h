@@ -15,3 +15,4 @@
 #include "arx/db/DatabaseReactor.h"
 #include "arx/db/Database.h"
 #include "arx/db/OpenObject.h"
+#include "arx/db/AdsNames.h"
