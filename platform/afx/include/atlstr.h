@@ -1,0 +1,5 @@
+// CString.
+#pragma once
+
+#include "afx/core/String.h"
+#include "afx/core/StringNarrow.h"

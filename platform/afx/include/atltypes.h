@@ -1,0 +1,4 @@
+// CPoint, CSize, CRect.
+#pragma once
+
+#include "afx/core/Geometry.h"
