@@ -5,6 +5,7 @@
 #pragma once
 
 #include "dbidar.h"
+#include "gepnt2d.h"
 #include "Extents.h"
 #include "Object.h"
 
@@ -61,6 +62,12 @@ public:
     AcGePoint3d extmax() const;
     AcDbExtents modelExtents() const;
 
+    // The drawing's limits, the sheet: LIMMIN and LIMMAX. Equal corners when the drawing has none.
+    AcGePoint2d limmin() const { return m_limmin; }
+    AcGePoint2d limmax() const { return m_limmax; }
+    void setLimmin(const AcGePoint2d& corner) { m_limmin = corner; }
+    void setLimmax(const AcGePoint2d& corner) { m_limmax = corner; }
+
     // Full path of the file; "" for a drawing that was never read. Valid until it changes.
     Acad::ErrorStatus getFilename(const ACHAR*& path) const;
     void setFilename(const ACHAR* path);
@@ -76,4 +83,6 @@ private:
     AcDbDatabase& operator=(const AcDbDatabase&);
 
     arxdb::DatabaseImpl* m_impl;
+    AcGePoint2d m_limmin;
+    AcGePoint2d m_limmax;
 };

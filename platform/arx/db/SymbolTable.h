@@ -22,11 +22,18 @@ public:
     // eInvalidInput for an empty name, eDuplicateKey when the table has another record of that name.
     virtual Acad::ErrorStatus setName(const ACHAR* name);
 
+    // A record that is not resolved is a placeholder: entities refer to it, the file has no definition of it. Such a record is dependent as well.
+    bool isDependent() const { return !m_resolved; }
+    bool isResolved() const { return m_resolved; }
+    // How the bundled drawing reader keeps the name of a missing block or layer; modules never call it.
+    void markUnresolved() { m_resolved = false; }
+
 protected:
     AcDbSymbolTableRecord();
 
 private:
     ACHAR* m_name;
+    bool m_resolved = true;
 };
 
 // Walks the records in the order in which they were added. Made by newIterator(), deleted by the caller.
