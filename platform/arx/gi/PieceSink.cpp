@@ -1,0 +1,8 @@
+#include "PieceSink.h"
+
+namespace arxgi
+{
+
+PieceSink::~PieceSink() = default;
+
+} // namespace arxgi
