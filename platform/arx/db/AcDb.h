@@ -28,4 +28,37 @@ struct AcDb
         kLnWtByBlock = -2,
         kLnWtByLwDefault = -3
     };
+
+    enum TextHorzMode
+    {
+        kTextLeft = 0,
+        kTextCenter = 1,
+        kTextRight = 2,
+        kTextAlign = 3,
+        kTextMid = 4,
+        kTextFit = 5
+    };
+
+    enum TextVertMode
+    {
+        kTextBase = 0,
+        kTextBottom = 1,
+        kTextVertMid = 2,
+        kTextTop = 3
+    };
+
+    enum Poly2dType
+    {
+        k2dSimplePoly = 0,
+        k2dFitCurvePoly = 1,
+        k2dQuadSplinePoly = 5,
+        k2dCubicSplinePoly = 6
+    };
+
+    enum Poly3dType
+    {
+        k3dSimplePoly = 0,
+        k3dQuadSplinePoly = 1,
+        k3dCubicSplinePoly = 2
+    };
 };

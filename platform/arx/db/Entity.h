@@ -7,7 +7,7 @@
 
 namespace arxgi
 {
-class DisplayList;
+class PieceSink;
 } // namespace arxgi
 
 class ARX_API AcDbEntity : public AcDbObject
@@ -49,9 +49,9 @@ public:
     virtual Acad::ErrorStatus highlight() const;
     virtual Acad::ErrorStatus unhighlight() const;
 
-    // Writes the entity's lines, areas and texts into the list; nothing for entities without a picture. This is how
-    // the bundled host draws; modules never call it.
-    virtual void drawInto(arxgi::DisplayList& list) const;
+    // Gives the pieces of the entity's picture to the sink, in the coordinates of its block; nothing for entities without
+    // a picture. This is how the bundled host draws and how extents are found; modules never call it.
+    virtual void emitPieces(arxgi::PieceSink& sink) const;
 
 protected:
     AcDbEntity();

@@ -11,8 +11,8 @@
 namespace arxdxf
 {
 
-// An entity of any block that names something which the drawing does not have. It is kept: a reference without its
-// block has a null blockTableRecord(), and an entity without its layer still answers layer() with the name.
+// An entity of any block that names a block or layer which the file does not define. The entity is kept; the name
+// becomes a placeholder in its table, empty and with isResolved() false.
 struct MissingReference
 {
     enum Kind

@@ -220,7 +220,7 @@ public:
     AcDbBlockReference() : m_normal(AcGeVector3d::kZAxis), m_rotation(0) {}
     AcDbBlockReference(const AcGePoint3d& position, AcDbObjectId blockTableRecord);
 
-    // Null for a reference to a block that the drawing does not have.
+    // A block that the drawing's file names without defining it is an empty placeholder (isResolved() is false).
     AcDbObjectId blockTableRecord() const { return m_block; }
     Acad::ErrorStatus setBlockTableRecord(AcDbObjectId block);
 
