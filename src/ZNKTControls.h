@@ -1,0 +1,4 @@
+// Everything that ZNKTControls.arx offers.
+#pragma once
+
+#include "msg/KTMsgWnd.h"

@@ -1,0 +1,43 @@
+#include "app/ZNKTControlsApp.h"
+
+#include <rxregsvc.h>
+#include <ZnQFCBaseU.h>
+
+#include "msg/MsgViewWnd.h"
+#include "msg/ZNMsgManager.h"
+
+namespace
+{
+
+const wchar_t kCompanionModule[] = L"ZNKTPub.arx";
+
+// What the suite's log readers look for: the handler and its line at the time the log format was settled.
+const wchar_t kUnloadHandler[] = L"CZNKTControlsApp::On_kUnloadAppMsg";
+const int kUnloadLine = 41;
+
+} // namespace
+
+CZNKTControlsApp::CZNKTControlsApp() : AcRxArxApp() {}
+
+AcRx::AppRetCode CZNKTControlsApp::On_kInitAppMsg(void* pkt)
+{
+    if (!acrxLoadModule(kCompanionModule, false, false))
+        return AcRx::kRetError;
+    return AcRxArxApp::On_kInitAppMsg(pkt);
+}
+
+AcRx::AppRetCode CZNKTControlsApp::On_kUnloadAppMsg(void* pkt)
+{
+    Tevrin::Trace(L"%s-%d", kUnloadHandler, kUnloadLine);
+    const AcRx::AppRetCode result = AcRxArxApp::On_kUnloadAppMsg(pkt);
+
+    // The palette's viewer reads the store, and both call into the companion: this order.
+    CMsgViewWnd::DestroyInstance();
+    CZNMsgManager::DestroyInstance();
+    acrxUnloadModule(kCompanionModule, false);
+    return result;
+}
+
+void CZNKTControlsApp::RegisterServerComponents() {}
+
+IMPLEMENT_ARX_ENTRYPOINT(CZNKTControlsApp)

@@ -1,0 +1,54 @@
+#include "msg/MsgGroupIndex.h"
+
+namespace
+{
+
+int CountIn(const std::map<AcApDocument*, int>& counts, AcApDocument* document)
+{
+    const std::map<AcApDocument*, int>::const_iterator found = counts.find(document);
+    return found == counts.end() ? 0 : found->second;
+}
+
+} // namespace
+
+CString CMsgGroupIndex::Add(const wchar_t* group, AcApDocument* document)
+{
+    const CString name(group);
+    Group& entry = m_groups[name];
+    if (entry.spelling != name)
+        entry.spelling = name;
+    ++entry.counts[document];
+    return entry.spelling;
+}
+
+void CMsgGroupIndex::Remove(const CString& group, AcApDocument* document)
+{
+    const Groups::iterator found = m_groups.find(group);
+    if (found == m_groups.end())
+        return;
+    Counts& counts = found->second.counts;
+    const Counts::iterator count = counts.find(document);
+    if (count != counts.end() && --count->second == 0)
+        counts.erase(count);
+    if (counts.empty())
+        m_groups.erase(found);
+}
+
+void CMsgGroupIndex::Clear()
+{
+    m_groups.clear();
+}
+
+bool CMsgGroupIndex::Contains(const wchar_t* group) const
+{
+    return m_groups.find(CString(group)) != m_groups.end();
+}
+
+int CMsgGroupIndex::CountVisible(const wchar_t* group, AcApDocument* current) const
+{
+    const Groups::const_iterator found = m_groups.find(CString(group));
+    if (found == m_groups.end())
+        return 0;
+    const int bound = current == NULL ? 0 : CountIn(found->second.counts, current);
+    return bound + CountIn(found->second.counts, NULL);
+}

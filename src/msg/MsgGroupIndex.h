@@ -1,0 +1,45 @@
+// How many messages each group has in each document, so that counting is a look-up and not a walk of the store.
+//
+// Group names are the same when they differ in letter case only. The index also hands out the texts of the names, so
+// that all messages of a group share one.
+#pragma once
+
+#include <afxwin.h>
+#include <acdocman.h>
+
+#include <map>
+
+class CMsgGroupIndex
+{
+public:
+    // Counts one more message. Answers the name as it is spelled here, in a text that is shared where possible.
+    CString Add(const wchar_t* group, AcApDocument* document);
+
+    // Counts one message less; it must have been added with the same name and document.
+    void Remove(const CString& group, AcApDocument* document);
+
+    void Clear();
+
+    bool Contains(const wchar_t* group) const;
+
+    // The messages of the group that belong to `current` or to no document.
+    int CountVisible(const wchar_t* group, AcApDocument* current) const;
+
+private:
+    struct NoCaseLess
+    {
+        bool operator()(const CString& left, const CString& right) const { return left.CompareNoCase(right) < 0; }
+    };
+
+    typedef std::map<AcApDocument*, int> Counts;
+
+    struct Group
+    {
+        CString spelling; // as in the newest message
+        Counts counts;
+    };
+
+    typedef std::map<CString, Group, NoCaseLess> Groups;
+
+    Groups m_groups;
+};

@@ -1,0 +1,28 @@
+// Identifiers of the module's resources and of the viewer's controls.
+#pragma once
+
+#define IDD_MSG_VIEWER 102
+
+#define IDI_TREE 104
+#define IDI_DELETE 105
+#define IDI_DELETE_ALL 106
+#define IDI_FLASH 107
+#define IDI_ZOOM 108
+#define IDI_SELECT 1001
+
+#define IDB_TREE_IMAGES 109
+#define IDB_LIST_IMAGES 110
+
+// Controls of the message viewer.
+#define IDC_TAB 100
+#define IDC_SHOW_TREE 101
+#define IDC_LIST 103
+#define IDC_COUNT 104
+#define IDC_TREE 105
+#define IDC_DELETE_SELECTED 106
+#define IDC_DELETE_SHOWN 107
+#define IDC_ZOOM 108
+#define IDC_FLASH 109
+#define IDC_SEPARATOR_DELETE 110
+#define IDC_SEPARATOR_ZOOM 111
+#define IDC_SELECT 112
