@@ -1,5 +1,6 @@
 ﻿#include "msg/MsgPaletteChildDlg.h"
 
+#include <algorithm>
 #include <set>
 
 #include "base/CursorInside.h"
@@ -445,5 +446,6 @@ void CMsgPaletteChildDlg::ShiftRightPart(int dx)
     rects.list.left += dx;
     rects.count.left += dx;
     m_list.MoveWindow(&rects.list);
+    m_list.FitTextColumn();
     m_count.MoveWindow(&rects.count);
 }
