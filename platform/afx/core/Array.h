@@ -1,8 +1,8 @@
 // CArray: elements in one block, counted from zero.
 //
-// TYPE is what is stored, ARG_TYPE how values are passed. A bad index throws CInvalidArgException. Growth keeps a reserve
-// (SetSize's growBy elements, or half as much again), which GetSize does not count; pointers to elements are good until the
-// array grows.
+// TYPE is what is stored, ARG_TYPE how values are passed. A bad index throws CInvalidArgException. Growth keeps a
+// reserve (SetSize's growBy elements, or half as much again), which GetSize does not count; pointers to elements are
+// good until the array grows.
 #pragma once
 
 #include "afx/core/Elements.h"

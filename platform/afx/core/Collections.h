@@ -1,5 +1,5 @@
-// Collections of fixed types. Interface and errors as the templates say (Array.h, List.h, Map.h). The pointer and object
-// collections do not own what they point to.
+// Collections of fixed types. Interface and errors as the templates say (Array.h, List.h, Map.h). The pointer and
+// object collections do not own what they point to.
 #pragma once
 
 #include "afx/core/Array.h"

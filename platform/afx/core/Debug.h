@@ -5,11 +5,13 @@
 
 class CObject;
 
-// Writes a printf-style line to the debugger output (wide format: %s is wide, %S is narrow; narrow format: the reverse).
+// Writes a printf-style line to the debugger output (wide format: %s is wide, %S is narrow; narrow format: the
+// reverse).
 AFX_API void AFX_CDECL AfxTrace(LPCWSTR format, ...);
 AFX_API void AFX_CDECL AfxTrace(LPCSTR format, ...);
 
-// Reports a failed assertion to the debugger output and to stderr and stops in the debugger (without one the process ends).
+// Reports a failed assertion to the debugger output and to stderr and stops in the debugger (without one the process
+// ends).
 AFX_API void AFXAPI AfxAssertFailedLine(LPCSTR file, int line);
 
 // Checks that the address range lies in this process. size 1 and write access by default.

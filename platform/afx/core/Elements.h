@@ -1,5 +1,5 @@
-// What the collection templates need to know about their elements: how to hash, compare and copy. A client may specialise each
-// for its own type.
+// What the collection templates need to know about their elements: how to hash, compare and copy. A client may
+// specialise each for its own type.
 #pragma once
 
 #include "afx/core/Exceptions.h"

@@ -2,8 +2,9 @@
 //
 //   try { ... } catch (CException* e) { e->ReportError(); e->Delete(); }
 //
-// or with the macros TRY, CATCH, AND_CATCH, END_CATCH, which delete by themselves. The AfxThrow functions of the common classes
-// throw shared objects that Delete() leaves alone, so that running out of memory can be reported without memory.
+// or with the macros TRY, CATCH, AND_CATCH, END_CATCH, which delete by themselves. The AfxThrow functions of the common
+// classes throw shared objects that Delete() leaves alone, so that running out of memory can be reported without
+// memory.
 #pragma once
 
 #include "afx/core/Object.h"

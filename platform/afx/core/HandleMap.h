@@ -14,8 +14,8 @@ template<class OBJECT, class HANDLE_TYPE>
 class CHandleMap
 {
 public:
-    // makeTemporary: a new object that holds the handle without owning it. letGo: clears the handle in such an object, so that
-    // its destructor, which runs right after, leaves the system object alone.
+    // makeTemporary: a new object that holds the handle without owning it. letGo: clears the handle in such an object,
+    // so that its destructor, which runs right after, leaves the system object alone.
     typedef OBJECT* (*MakeTemporary)(HANDLE_TYPE handle);
     typedef void (*LetGo)(OBJECT* object);
 

@@ -1,5 +1,5 @@
-// CList: a doubly linked list. A POSITION is good until its own element is removed; NULL means "no element". A position that is
-// NULL where an element is needed, and the head or tail of an empty list, throw CInvalidArgException.
+// CList: a doubly linked list. A POSITION is good until its own element is removed; NULL means "no element". A position
+// that is NULL where an element is needed, and the head or tail of an empty list, throw CInvalidArgException.
 #pragma once
 
 #include "afx/core/Elements.h"

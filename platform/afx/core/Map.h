@@ -103,7 +103,9 @@ protected:
     // Entries stand in the chain of their hash and in one list of all.
     struct CAssoc : public CPair
     {
-        CAssoc(ARG_KEY keyValue, UINT hashValue) : CPair(keyValue), hash(hashValue), chain(NULL), prev(NULL), next(NULL) {}
+        CAssoc(ARG_KEY keyValue, UINT hashValue) : CPair(keyValue), hash(hashValue), chain(NULL), prev(NULL), next(NULL)
+        {
+        }
 
         UINT hash;
         CAssoc* chain;

@@ -45,18 +45,14 @@ CRuntimeClass* CObject::GetRuntimeClass() const
     return &classCObject;
 }
 
-CObject::~CObject()
-{
-}
+CObject::~CObject() {}
 
 BOOL CObject::IsKindOf(const CRuntimeClass* runtimeClass) const
 {
     return GetRuntimeClass()->IsDerivedFrom(runtimeClass);
 }
 
-void CObject::AssertValid() const
-{
-}
+void CObject::AssertValid() const {}
 
 void CObject::Dump(CDumpContext& dc) const
 {
@@ -73,9 +69,7 @@ CRuntimeClass* AFXAPI CObject::_GetBaseClass()
     return NULL;
 }
 
-CObject::CObject()
-{
-}
+CObject::CObject() {}
 
 CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* runtimeClass, CObject* object)
 {

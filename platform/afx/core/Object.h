@@ -3,7 +3,8 @@
 //   class CThing : public CObject { DECLARE_DYNAMIC(CThing) ... };      // header
 //   IMPLEMENT_DYNAMIC(CThing, CObject)                                  // source
 //
-// RUNTIME_CLASS goes through the static GetThisClass(), so one class has one CRuntimeClass in the process, whichever DLL asks.
+// RUNTIME_CLASS goes through the static GetThisClass(), so one class has one CRuntimeClass in the process, whichever
+// DLL asks.
 #pragma once
 
 #include "afx/core/Api.h"
@@ -15,7 +16,7 @@ struct AFX_API CRuntimeClass
 {
     LPCSTR m_lpszClassName;
     int m_nObjectSize;
-    UINT m_wSchema;                       // 0xFFFF: not serialised
+    UINT m_wSchema;                        // 0xFFFF: not serialised
     CObject*(AFXAPI* m_pfnCreateObject)(); // null: the class can't be created by its run-time class
     CRuntimeClass*(AFXAPI* m_pfnGetBaseClass)();
 
@@ -92,14 +93,26 @@ public:                                                                         
     static CObject* AFXAPI CreateObject();
 
 #define _AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, create)                                               \
-    CRuntimeClass* AFXAPI class_name::_GetBaseClass() { return base_class_name::GetThisClass(); }                      \
+    CRuntimeClass* AFXAPI class_name::_GetBaseClass()                                                                  \
+    {                                                                                                                  \
+        return base_class_name::GetThisClass();                                                                        \
+    }                                                                                                                  \
     CRuntimeClass class_name::class##class_name = {#class_name, static_cast<int>(sizeof(class_name)), 0xFFFF, create,  \
                                                    &class_name::_GetBaseClass};                                        \
-    CRuntimeClass* AFXAPI class_name::GetThisClass() { return &class_name::class##class_name; }                        \
-    CRuntimeClass* class_name::GetRuntimeClass() const { return &class_name::class##class_name; }
+    CRuntimeClass* AFXAPI class_name::GetThisClass()                                                                   \
+    {                                                                                                                  \
+        return &class_name::class##class_name;                                                                         \
+    }                                                                                                                  \
+    CRuntimeClass* class_name::GetRuntimeClass() const                                                                 \
+    {                                                                                                                  \
+        return &class_name::class##class_name;                                                                         \
+    }
 
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name) _AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, NULL)
 
 #define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
-    CObject* AFXAPI class_name::CreateObject() { return new class_name; }                                              \
+    CObject* AFXAPI class_name::CreateObject()                                                                         \
+    {                                                                                                                  \
+        return new class_name;                                                                                         \
+    }                                                                                                                  \
     _AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, &class_name::CreateObject)

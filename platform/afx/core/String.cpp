@@ -71,9 +71,7 @@ StringData* NewStringData(int capacity)
 }
 } // namespace
 
-CString::CString() : m_pszData(nilString.header.Text())
-{
-}
+CString::CString() : m_pszData(nilString.header.Text()) {}
 
 CString::CString(const CString& source) : m_pszData(source.m_pszData)
 {

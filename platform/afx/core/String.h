@@ -1,11 +1,11 @@
 // CString: UTF-16 text, reference counted, copied on write.
 //
-// A CString is one pointer to its characters; a header of 12 bytes stands before them in the same allocation. Copies share
-// the characters until one of them is changed; the count is atomic, so copies may live on different threads. All empty
-// strings share one static text. Positions and lengths count UTF-16 units.
+// A CString is one pointer to its characters; a header of 12 bytes stands before them in the same allocation. Copies
+// share the characters until one of them is changed; the count is atomic, so copies may live on different threads. All
+// empty strings share one static text. Positions and lengths count UTF-16 units.
 //
-// Pass a CString to a function with "..." as (LPCTSTR)text, as portable code does: GCC hands a class over by address there.
-// Format and its kin take a CString as it is.
+// Pass a CString to a function with "..." as (LPCTSTR)text, as portable code does: GCC hands a class over by address
+// there. Format and its kin take a CString as it is.
 //
 // Errors: a bad index, a negative length and an impossible format throw CInvalidArgException.
 #pragma once
@@ -75,8 +75,8 @@ public:
     // Writing in place.
     void SetAt(int index, wchar_t ch);
     void Empty();
-    // The characters for writing, room for at least minLength of them; ReleaseBuffer must follow. A negative length there
-    // measures up to the terminator.
+    // The characters for writing, room for at least minLength of them; ReleaseBuffer must follow. A negative length
+    // there measures up to the terminator.
     LPWSTR GetBuffer();
     LPWSTR GetBuffer(int minLength);
     LPWSTR GetBufferSetLength(int length);
@@ -218,31 +218,106 @@ inline bool operator==(const CString& a, const CString& b)
 {
     return a.GetLength() == b.GetLength() && a.Compare(b) == 0;
 }
-inline bool operator==(const CString& a, LPCWSTR b) { return a.Compare(b) == 0; }
-inline bool operator==(LPCWSTR a, const CString& b) { return b.Compare(a) == 0; }
-inline bool operator==(const CString& a, LPCSTR b) { return a == CString(b); }
-inline bool operator==(LPCSTR a, const CString& b) { return b == CString(a); }
-inline bool operator==(const CString& a, wchar_t b) { return a.GetLength() == 1 && a.GetAt(0) == b; }
-inline bool operator==(wchar_t a, const CString& b) { return b == a; }
-inline bool operator!=(const CString& a, const CString& b) { return !(a == b); }
-inline bool operator!=(const CString& a, LPCWSTR b) { return !(a == b); }
-inline bool operator!=(LPCWSTR a, const CString& b) { return !(a == b); }
-inline bool operator!=(const CString& a, LPCSTR b) { return !(a == b); }
-inline bool operator!=(LPCSTR a, const CString& b) { return !(a == b); }
-inline bool operator!=(const CString& a, wchar_t b) { return !(a == b); }
-inline bool operator!=(wchar_t a, const CString& b) { return !(a == b); }
-inline bool operator<(const CString& a, const CString& b) { return a.Compare(b) < 0; }
-inline bool operator<(const CString& a, LPCWSTR b) { return a.Compare(b) < 0; }
-inline bool operator<(LPCWSTR a, const CString& b) { return b.Compare(a) > 0; }
-inline bool operator>(const CString& a, const CString& b) { return a.Compare(b) > 0; }
-inline bool operator>(const CString& a, LPCWSTR b) { return a.Compare(b) > 0; }
-inline bool operator>(LPCWSTR a, const CString& b) { return b.Compare(a) < 0; }
-inline bool operator<=(const CString& a, const CString& b) { return a.Compare(b) <= 0; }
-inline bool operator<=(const CString& a, LPCWSTR b) { return a.Compare(b) <= 0; }
-inline bool operator<=(LPCWSTR a, const CString& b) { return b.Compare(a) >= 0; }
-inline bool operator>=(const CString& a, const CString& b) { return a.Compare(b) >= 0; }
-inline bool operator>=(const CString& a, LPCWSTR b) { return a.Compare(b) >= 0; }
-inline bool operator>=(LPCWSTR a, const CString& b) { return b.Compare(a) <= 0; }
+inline bool operator==(const CString& a, LPCWSTR b)
+{
+    return a.Compare(b) == 0;
+}
+inline bool operator==(LPCWSTR a, const CString& b)
+{
+    return b.Compare(a) == 0;
+}
+inline bool operator==(const CString& a, LPCSTR b)
+{
+    return a == CString(b);
+}
+inline bool operator==(LPCSTR a, const CString& b)
+{
+    return b == CString(a);
+}
+inline bool operator==(const CString& a, wchar_t b)
+{
+    return a.GetLength() == 1 && a.GetAt(0) == b;
+}
+inline bool operator==(wchar_t a, const CString& b)
+{
+    return b == a;
+}
+inline bool operator!=(const CString& a, const CString& b)
+{
+    return !(a == b);
+}
+inline bool operator!=(const CString& a, LPCWSTR b)
+{
+    return !(a == b);
+}
+inline bool operator!=(LPCWSTR a, const CString& b)
+{
+    return !(a == b);
+}
+inline bool operator!=(const CString& a, LPCSTR b)
+{
+    return !(a == b);
+}
+inline bool operator!=(LPCSTR a, const CString& b)
+{
+    return !(a == b);
+}
+inline bool operator!=(const CString& a, wchar_t b)
+{
+    return !(a == b);
+}
+inline bool operator!=(wchar_t a, const CString& b)
+{
+    return !(a == b);
+}
+inline bool operator<(const CString& a, const CString& b)
+{
+    return a.Compare(b) < 0;
+}
+inline bool operator<(const CString& a, LPCWSTR b)
+{
+    return a.Compare(b) < 0;
+}
+inline bool operator<(LPCWSTR a, const CString& b)
+{
+    return b.Compare(a) > 0;
+}
+inline bool operator>(const CString& a, const CString& b)
+{
+    return a.Compare(b) > 0;
+}
+inline bool operator>(const CString& a, LPCWSTR b)
+{
+    return a.Compare(b) > 0;
+}
+inline bool operator>(LPCWSTR a, const CString& b)
+{
+    return b.Compare(a) < 0;
+}
+inline bool operator<=(const CString& a, const CString& b)
+{
+    return a.Compare(b) <= 0;
+}
+inline bool operator<=(const CString& a, LPCWSTR b)
+{
+    return a.Compare(b) <= 0;
+}
+inline bool operator<=(LPCWSTR a, const CString& b)
+{
+    return b.Compare(a) >= 0;
+}
+inline bool operator>=(const CString& a, const CString& b)
+{
+    return a.Compare(b) >= 0;
+}
+inline bool operator>=(const CString& a, LPCWSTR b)
+{
+    return a.Compare(b) >= 0;
+}
+inline bool operator>=(LPCWSTR a, const CString& b)
+{
+    return b.Compare(a) <= 0;
+}
 
 AFX_API CString operator+(const CString& a, const CString& b);
 AFX_API CString operator+(const CString& a, LPCWSTR b);

@@ -1,7 +1,8 @@
 // CTime: a moment, in seconds since 1 January 1970 UTC. CTimeSpan: a difference of moments, in seconds.
 //
-// Parts (year, hour ...) are in local time unless a name says Gmt. A part outside its calendar range throws CInvalidArgException;
-// a date that the runtime can't express (before 1970) gives the invalid moment -1, whose parts are 0 and whose text is empty.
+// Parts (year, hour ...) are in local time unless a name says Gmt. A part outside its calendar range throws
+// CInvalidArgException; a date that the runtime can't express (before 1970) gives the invalid moment -1, whose parts
+// are 0 and whose text is empty.
 #pragma once
 
 #include "afx/core/String.h"
@@ -48,7 +49,8 @@ class AFX_API CTime
 public:
     CTime() : m_time(0) {}
     CTime(__time64_t time) : m_time(time) {}
-    // Local time. Month 1 to 12, day 1 to 31, hour 0 to 23. daylight: 1 summer time, 0 standard time, -1 as the system says.
+    // Local time. Month 1 to 12, day 1 to 31, hour 0 to 23. daylight: 1 summer time, 0 standard time, -1 as the system
+    // says.
     CTime(int year, int month, int day, int hour, int minute, int second, int daylight = -1);
     // Date and time as a FAT directory packs them; local time, seconds in twos.
     CTime(WORD dosDate, WORD dosTime, int daylight = -1);

@@ -7,5 +7,6 @@
 #include "afx/core/String.h"
 #include "afx/core/StringNarrow.h"
 #include "afx/core/Exceptions.h"
+#include "afx/core/Resources.h"
 #include "afx/core/Geometry.h"
 #include "afx/core/Time.h"
