@@ -30,11 +30,6 @@ void ReleaseReference(StringData* data)
         free(data);
 }
 
-StringData* DataOf(LPCWSTR text)
-{
-    return reinterpret_cast<StringData*>(const_cast<LPWSTR>(text)) - 1;
-}
-
 // Half as much again, so that a text built piece by piece is copied a logarithmic number of times.
 int GrownCapacity(int capacity, int length)
 {
