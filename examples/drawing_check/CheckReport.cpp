@@ -1,0 +1,208 @@
+﻿#include "CheckReport.h"
+
+#include <KTMsgWnd.h>
+
+#include <algorithm>
+#include <cwchar>
+
+namespace drawing_check
+{
+
+namespace group
+{
+const wchar_t* const kZeroLength = L"零长度线";
+const wchar_t* const kDuplicates = L"重复对象";
+const wchar_t* const kGaps = L"端点未相接";
+const wchar_t* const kNearlyClosed = L"多段线未闭合";
+const wchar_t* const kFlatTexts = L"文字高度为零";
+const wchar_t* const kOutside = L"超出图幅";
+const wchar_t* const kMissing = L"缺少引用";
+const wchar_t* const kSummary = L"检查结果";
+} // namespace group
+
+namespace
+{
+
+const wchar_t* const kAllGroups[] = {group::kZeroLength, group::kDuplicates, group::kGaps,    group::kNearlyClosed,
+                                     group::kFlatTexts,  group::kOutside,    group::kMissing, group::kSummary};
+
+// Ends that are apart by no more than this part of the drawing's diagonal were meant to meet.
+constexpr double kGapPart = 0.0005;
+
+// Room around a gap when the viewer zooms to it, as a multiple of the gap's width.
+constexpr double kGapRoom = 20.0;
+
+std::wstring Format(const wchar_t* format, ...)
+{
+    wchar_t text[512];
+    va_list arguments;
+    va_start(arguments, format);
+    std::vswprintf(text, std::size(text), format, arguments);
+    va_end(arguments);
+    return text;
+}
+
+using Ids = AcArray<AcDbObjectId>;
+
+Ids IdsOf(const Drawing& drawing, std::initializer_list<std::size_t> objects)
+{
+    Ids ids;
+    for (std::size_t object : objects)
+    {
+        ids.append(drawing.ids[object]);
+    }
+    return ids;
+}
+
+void AddMessage(KTMsgWnd::EMsgType type, const wchar_t* group, const std::wstring& text, const Ids& ids,
+                const AcDbExtents* extents)
+{
+    KTMsgWnd::AddMsg(type, group, text.c_str(), true, &ids, extents);
+}
+
+AcDbExtents ExtentsOf(const Box& box)
+{
+    return AcDbExtents(AcGePoint3d(box.min.x, box.min.y, 0), AcGePoint3d(box.max.x, box.max.y, 0));
+}
+
+AcDbExtents ExtentsAround(Point first, Point second, double room)
+{
+    const Box box = {{std::min(first.x, second.x) - room, std::min(first.y, second.y) - room},
+                     {std::max(first.x, second.x) + room, std::max(first.y, second.y) + room}};
+    return ExtentsOf(box);
+}
+
+Box BoxOfAll(const Drawing& drawing)
+{
+    Box all = drawing.boxes.empty() ? Box() : drawing.boxes.front();
+    for (const Box& box : drawing.boxes)
+    {
+        all.min = {std::min(all.min.x, box.min.x), std::min(all.min.y, box.min.y)};
+        all.max = {std::max(all.max.x, box.max.x), std::max(all.max.y, box.max.y)};
+    }
+    return all;
+}
+
+double GapTolerance(const Drawing& drawing)
+{
+    const Box all = drawing.hasSheet ? drawing.sheet : BoxOfAll(drawing);
+    return kGapPart * Distance(all.min, all.max);
+}
+
+int ReportZeroLength(const Drawing& drawing)
+{
+    const std::vector<std::size_t> found = FindZeroLength(drawing.lines);
+    for (std::size_t object : found)
+    {
+        AddMessage(KTMsgWnd::eError, group::kZeroLength, L"直线的起点与终点重合", IdsOf(drawing, {object}), nullptr);
+    }
+    return static_cast<int>(found.size());
+}
+
+int ReportDuplicates(const Drawing& drawing)
+{
+    const auto groups = FindDuplicates(drawing.descriptions);
+    for (const std::vector<std::size_t>& same : groups)
+    {
+        Ids ids;
+        for (std::size_t object : same)
+        {
+            ids.append(drawing.ids[object]);
+        }
+        AddMessage(KTMsgWnd::eWarning, group::kDuplicates, Format(L"%d 个对象完全重合", static_cast<int>(same.size())),
+                   ids, nullptr);
+    }
+    return static_cast<int>(groups.size());
+}
+
+int ReportGaps(const Drawing& drawing, double tolerance)
+{
+    const std::vector<Gap> gaps = FindGaps(drawing.ends, tolerance);
+    for (const Gap& gap : gaps)
+    {
+        const AcDbExtents extents = ExtentsAround(gap.firstEnd, gap.secondEnd, gap.width * kGapRoom);
+        AddMessage(KTMsgWnd::eWarning, group::kGaps,
+                   Format(L"两个端点相距 %.4f，位于 (%.2f, %.2f)", gap.width, gap.firstEnd.x, gap.firstEnd.y),
+                   IdsOf(drawing, {gap.first, gap.second}), &extents);
+    }
+    return static_cast<int>(gaps.size());
+}
+
+int ReportNearlyClosed(const Drawing& drawing, double tolerance)
+{
+    const std::vector<std::size_t> found = FindNearlyClosed(drawing.polylines, tolerance);
+    for (std::size_t object : found)
+    {
+        AddMessage(KTMsgWnd::eWarning, group::kNearlyClosed, L"多段线的起点与终点几乎重合，但没有闭合",
+                   IdsOf(drawing, {object}), nullptr);
+    }
+    return static_cast<int>(found.size());
+}
+
+int ReportFlatTexts(const Drawing& drawing)
+{
+    for (std::size_t object : drawing.flatTexts)
+    {
+        AddMessage(KTMsgWnd::eError, group::kFlatTexts, L"文字的高度为零，图上看不见", IdsOf(drawing, {object}), nullptr);
+    }
+    return static_cast<int>(drawing.flatTexts.size());
+}
+
+int ReportOutside(const Drawing& drawing)
+{
+    if (!drawing.hasSheet)
+    {
+        KTMsgWnd::AddMsg(KTMsgWnd::eInfo, group::kOutside, L"图形没有设置图幅界限，未检查超出图幅的对象", true, nullptr,
+                         nullptr);
+        return 0;
+    }
+    const std::vector<std::size_t> found = FindOutside(drawing.boxes, drawing.sheet);
+    for (std::size_t index : found)
+    {
+        const AcDbExtents extents = ExtentsOf(drawing.boxes[index]);
+        AddMessage(KTMsgWnd::eWarning, group::kOutside, L"对象超出图幅界限", IdsOf(drawing, {drawing.boxed[index]}),
+                   &extents);
+    }
+    return static_cast<int>(found.size());
+}
+
+int ReportMissing(const Drawing& drawing)
+{
+    for (const MissingReference& reference : drawing.missing)
+    {
+        AddMessage(KTMsgWnd::eError, group::kMissing,
+                   L"引用的" + reference.what + L"“" + reference.name + L"”不存在",
+                   IdsOf(drawing, {reference.object}), nullptr);
+    }
+    return static_cast<int>(drawing.missing.size());
+}
+
+void ReportSummary(const Drawing& drawing, int findings)
+{
+    const int objects = static_cast<int>(drawing.ids.size());
+    const std::wstring text = findings == 0 ? Format(L"检查完成：%d 个对象，没有发现问题", objects)
+                                            : Format(L"检查完成：%d 个对象，发现 %d 处问题", objects, findings);
+    KTMsgWnd::AddMsg(KTMsgWnd::eInfo, group::kSummary, text.c_str(), true, nullptr, nullptr);
+}
+
+} // namespace
+
+void RemoveOldMessages()
+{
+    for (const wchar_t* name : kAllGroups)
+    {
+        KTMsgWnd::RemoveMsg(name, false);
+    }
+}
+
+int ReportFindings(const Drawing& drawing)
+{
+    const double tolerance = GapTolerance(drawing);
+    const int findings = ReportZeroLength(drawing) + ReportDuplicates(drawing) + ReportGaps(drawing, tolerance) +
+                         ReportNearlyClosed(drawing, tolerance) + ReportFlatTexts(drawing) + ReportOutside(drawing) +
+                         ReportMissing(drawing);
+    ReportSummary(drawing, findings);
+    return findings;
+}
+
+} // namespace drawing_check
