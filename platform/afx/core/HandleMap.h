@@ -8,6 +8,7 @@
 // The map isn't locked: its owner keeps one per thread, or guards it. A null handle stands for no object.
 #pragma once
 
+#include <cstddef>
 #include <unordered_map>
 
 template<class OBJECT, class HANDLE_TYPE>

@@ -11,6 +11,8 @@
 #include "afx/core/Geometry.h"
 #include "afx/core/Object.h"
 
+#include <commctrl.h>
+
 class CBitmap;
 class CDC;
 class CString;

@@ -8,8 +8,6 @@
 // The object owns its list. A tree or list view only borrows it (a list view without LVS_SHAREIMAGELISTS destroys it at its own end).
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx/gdi/GdiObject.h"
 
 class CWnd;
