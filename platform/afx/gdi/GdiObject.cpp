@@ -1,6 +1,6 @@
 #include "afx/gdi/GdiObject.h"
 
-#include "afx/app/Resource.h"
+#include "afx/core/Resources.h"
 #include "afx/core/Exceptions.h"
 #include "afx/gdi/DC.h"
 #include "afx/gdi/GdiMaps.h"

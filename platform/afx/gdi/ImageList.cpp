@@ -1,6 +1,6 @@
 #include "afx/gdi/ImageList.h"
 
-#include "afx/app/Resource.h"
+#include "afx/core/Resources.h"
 #include "afx/gdi/DC.h"
 #include "afx/gdi/GdiMaps.h"
 #include "afx/wnd/Wnd.h"
