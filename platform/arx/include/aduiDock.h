@@ -78,7 +78,7 @@ public:
     // Framework.
     virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
     virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
-    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual BOOL DestroyWindow();
 
 protected:
     // For the palette set: buttons of the caption, the free area below caption and beside the splitter, what fills it.
@@ -124,17 +124,22 @@ private:
     friend class arxui::BarDrag;
     friend class arxui::FloatingFrame;
 
-    void MoveInto(int dockBar);
     void ApplyLayout();
+    void ApplyFloating();
+    void ApplyDocked();
+    void MoveToParent(CWnd* parent);
     void SyncFrame(bool shown);
     void RecalcFrame();
     void FrameMoved(const CRect& rect);
-    void PressButton(int part);
+    void MoveFrameInstead(WINDOWPOS& position);
+    CRect FrameRect() const;
+    int DockedThickness() const;
+    bool IsActiveBar() const;
+    void StartDrag(bool place, CPoint screenPoint);
+    void PressButton(CPoint point);
     void ShowMenu(CPoint screenPoint);
     void RunMenuCommand(UINT command);
     void UpdateHot(CPoint point);
-    void WatchCursor();
-    CRect RolledUpRect() const;
 
     std::unique_ptr<arxui::DockBarParts> m_parts;
 };
