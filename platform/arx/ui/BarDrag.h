@@ -1,10 +1,10 @@
 // One drag of a dock bar with the mouse: its place by the caption, or its size by the splitter.
 #pragma once
 
+#include <afxwin.h>
+
 #include "arx/ui/DockMath.h"
 #include "arx/ui/DockPreview.h"
-
-#include <afxwin.h>
 
 class CAdUiDockControlBar;
 
