@@ -19,6 +19,11 @@ foreach(part afx arx xtp suite)
   install(DIRECTORY platform/${part} DESTINATION include/platform
     FILES_MATCHING PATTERN "*.h" PATTERN "include" EXCLUDE)
 endforeach()
-install(DIRECTORY src/ DESTINATION include/ZNKTControls FILES_MATCHING PATTERN "*.h" PATTERN "res" EXCLUDE)
+# Exported headers include each other by their folders, so the folders are kept.
+get_property(exported GLOBAL PROPERTY ZNKT_EXPORTED_HEADERS)
+foreach(header ${exported})
+  get_filename_component(folder "${header}" DIRECTORY)
+  install(FILES src/${header} DESTINATION include/ZNKTControls/${folder})
+endforeach()
 
 install(FILES tools/cmake/ZNKTControlsConfig.cmake tools/cmake/mingw-w64-client.cmake DESTINATION lib/cmake/ZNKTControls)
