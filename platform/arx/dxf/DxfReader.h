@@ -6,6 +6,8 @@
 
 #include "DxfResult.h"
 
+#include <stddef.h>
+
 class AcDbDatabase;
 
 namespace arxdxf

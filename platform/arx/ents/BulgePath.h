@@ -5,6 +5,7 @@
 #include "gemat3d.h"
 #include "gepnt2d.h"
 
+#include <stddef.h>
 #include <vector>
 
 namespace arxents

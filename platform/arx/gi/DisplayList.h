@@ -17,6 +17,7 @@
 #include "dbid.h"
 #include "arx/Api.h"
 
+#include <stddef.h>
 #include <string>
 #include <vector>
 
@@ -64,7 +65,7 @@ struct DisplayPrimitive
     {
         kPolyline, // chain of points; a closed one repeats its first point
         kArea,     // filled polygons with holes by the even-odd rule; see loops
-        kText,     // texts()[text], on the parallelogram of points: left base, right base, right top, left top
+        kText,     // texts()[text] on a parallelogram: left base, right base, right top, left top, left base
         kPoint     // one point
     };
 

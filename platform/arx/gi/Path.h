@@ -5,6 +5,7 @@
 #include "gemat3d.h"
 #include "arx/Api.h"
 
+#include <stddef.h>
 #include <vector>
 
 class AcDbExtents;

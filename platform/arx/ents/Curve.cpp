@@ -1,0 +1,3 @@
+#include "dbcurve.h"
+
+ACRX_NO_CONS_DEFINE_MEMBERS(AcDbCurve, AcDbEntity)
