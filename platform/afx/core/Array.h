@@ -158,9 +158,16 @@ private:
         m_nSize = newSize;
         FreeExtra();
     }
+    static TYPE* Allocate(INT_PTR capacity)
+    {
+        const size_t most = PTRDIFF_MAX / sizeof(TYPE);
+        if (static_cast<size_t>(capacity) > most)
+            AfxThrowMemoryException();
+        return capacity == 0 ? NULL : static_cast<TYPE*>(::operator new(capacity * sizeof(TYPE)));
+    }
     void Reallocate(INT_PTR capacity)
     {
-        TYPE* moved = capacity == 0 ? NULL : static_cast<TYPE*>(::operator new(capacity * sizeof(TYPE)));
+        TYPE* moved = Allocate(capacity);
         for (INT_PTR i = 0; i < m_nSize; ++i)
             ::new (static_cast<void*>(moved + i)) TYPE(std::move(m_pData[i]));
         DestructElements(m_pData, m_nSize);

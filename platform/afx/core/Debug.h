@@ -21,7 +21,7 @@ AFX_API BOOL AFXAPI AfxIsValidString(LPCWSTR text, int length = -1);
 // Calls object->AssertValid() after checking the pointer.
 AFX_API void AFXAPI AfxAssertValidObject(const CObject* object, LPCSTR file, int line);
 
-AFX_API void AFXAPI AfxThrowInvalidArgException();
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowInvalidArgException();
 
 #ifdef _DEBUG
 #define ASSERT(f) ((f) ? (void)0 : ::AfxAssertFailedLine(__FILE__, __LINE__))

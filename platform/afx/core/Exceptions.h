@@ -151,12 +151,12 @@ public:
 
 typedef CException* PEXCEPTION;
 
-AFX_API void AFXAPI AfxThrowMemoryException();
-AFX_API void AFXAPI AfxThrowNotSupportedException();
-AFX_API void AFXAPI AfxThrowResourceException();
-AFX_API void AFXAPI AfxThrowUserException();
-AFX_API void AFXAPI AfxThrowInvalidArgException();
-AFX_API void AFXAPI AfxThrowFileException(int cause, LONG osError = -1, LPCWSTR fileName = NULL);
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowMemoryException();
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowNotSupportedException();
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowResourceException();
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowUserException();
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowInvalidArgException();
+AFX_API DECLSPEC_NORETURN void AFXAPI AfxThrowFileException(int cause, LONG osError = -1, LPCWSTR fileName = NULL);
 
 namespace afx
 {

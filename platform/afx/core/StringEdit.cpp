@@ -63,12 +63,15 @@ int CString::CollateNoCase(LPCWSTR text) const
     return _wcsicoll(m_pszData, TextOrNone(text));
 }
 
+// Not by wcsstr: Wine's finds no empty text in an empty text.
 int CString::Find(LPCWSTR text, int start) const
 {
     if (text == NULL || start < 0 || start > GetLength())
         return -1;
-    const LPCWSTR found = wcsstr(m_pszData + start, text);
-    return found == NULL ? -1 : static_cast<int>(found - m_pszData);
+    const int length = StringLength(text);
+    const LPCWSTR end = m_pszData + GetLength();
+    const LPCWSTR found = std::search(static_cast<LPCWSTR>(m_pszData) + start, end, text, text + length);
+    return found == end && length > 0 ? -1 : static_cast<int>(found - m_pszData);
 }
 
 int CString::Find(wchar_t ch, int start) const

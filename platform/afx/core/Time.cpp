@@ -51,7 +51,8 @@ __time64_t MakeTime(const SYSTEMTIME& local, int daylight)
     return MakeTime(local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond, daylight);
 }
 
-// An empty result is legal, so the format gets one character of its own that is cut off afterwards.
+// An empty result is legal, so the format gets one character of its own that is cut off afterwards. Text that doesn't
+// fit gives 0, but Wine's runtime fills the room and reports all of it.
 CString FormatParts(LPCWSTR format, const struct tm& parts)
 {
     const CString marked = CString(format) + L'.';
@@ -59,7 +60,7 @@ CString FormatParts(LPCWSTR format, const struct tm& parts)
     {
         std::vector<wchar_t> text(room);
         const size_t length = wcsftime(text.data(), room, marked, &parts);
-        if (length > 0)
+        if (length > 0 && length < room)
             return CString(text.data(), static_cast<int>(length) - 1);
     }
     return CString();

@@ -111,7 +111,9 @@ TEST(Map, EntriesMayBeRemovedWhileWalking)
         int value = 0;
         map.GetNextAssoc(at, key, value);
         if (key % 3 != 0)
+        {
             EXPECT_TRUE(map.RemoveKey(key));
+        }
     }
     EXPECT_EQ(34, map.GetCount());
     int value = 0;

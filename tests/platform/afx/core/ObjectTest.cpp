@@ -61,6 +61,9 @@ TEST(Object, DynamicDowncastChecksTheClass)
     CObject* object = &circle;
     EXPECT_EQ(&circle, DYNAMIC_DOWNCAST(CShape, object));
     EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CSquare, object));
+    CSquare square;
+    object = &square;
+    EXPECT_EQ(&square, DYNAMIC_DOWNCAST(CSquare, object));
     EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CSquare, static_cast<CObject*>(NULL)));
 }
 
