@@ -10,3 +10,4 @@
 #include "afx/core/Resources.h"
 #include "afx/core/Geometry.h"
 #include "afx/core/Time.h"
+#include "afx/core/File.h"
