@@ -9,8 +9,6 @@
 namespace
 {
 
-const wchar_t kCompanionModule[] = L"ZNKTPub.arx";
-
 // What the suite's log readers look for: the handler and its line at the time the log format was settled.
 const wchar_t kUnloadHandler[] = L"CZNKTControlsApp::On_kUnloadAppMsg";
 const int kUnloadLine = 41;
@@ -21,7 +19,7 @@ CZNKTControlsApp::CZNKTControlsApp() : AcRxArxApp() {}
 
 AcRx::AppRetCode CZNKTControlsApp::On_kInitAppMsg(void* pkt)
 {
-    if (!acrxLoadModule(kCompanionModule, false, false))
+    if (!acrxLoadModule(m_companion, false, false))
         return AcRx::kRetError;
     return AcRxArxApp::On_kInitAppMsg(pkt);
 }
@@ -34,7 +32,7 @@ AcRx::AppRetCode CZNKTControlsApp::On_kUnloadAppMsg(void* pkt)
     // The palette's viewer reads the store, and both call into the companion: this order.
     CMsgViewWnd::DestroyInstance();
     CZNMsgManager::DestroyInstance();
-    acrxUnloadModule(kCompanionModule, false);
+    acrxUnloadModule(m_companion, false);
     return result;
 }
 

@@ -10,9 +10,13 @@
 class CZNKTControlsApp : public AcRxArxApp
 {
 public:
-    CZNKTControlsApp();
+    // `companion`: the module that must be loaded before this one works; the text must live as long as the object.
+    explicit CZNKTControlsApp(const wchar_t* companion = L"ZNKTPub.arx");
 
     virtual AcRx::AppRetCode On_kInitAppMsg(void* pkt);
     virtual AcRx::AppRetCode On_kUnloadAppMsg(void* pkt);
     virtual void RegisterServerComponents();
+
+private:
+    const wchar_t* m_companion;
 };

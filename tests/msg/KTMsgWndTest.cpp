@@ -1,7 +1,7 @@
 ﻿// The exported message functions as a client module calls them.
 #include "StoreFixture.h"
 
-#include <dbents.h>
+#include "Drawing.h"
 
 #include <cwctype>
 
@@ -11,21 +11,6 @@ namespace
 class MessageService : public StoreFixture
 {
 };
-
-AcDbObjectId AddLine()
-{
-    AcDbBlockTable* blocks = NULL;
-    AcDbBlockTableRecord* space = NULL;
-    acdbHostApplicationServices()->workingDatabase()->getSymbolTable(blocks, AcDb::kForRead);
-    blocks->getAt(ACDB_MODEL_SPACE, space, AcDb::kForWrite);
-    blocks->close();
-    AcDbLine* const line = new AcDbLine(AcGePoint3d(0, 0, 0), AcGePoint3d(1, 1, 0));
-    AcDbObjectId id;
-    space->appendAcDbEntity(id, line);
-    line->close();
-    space->close();
-    return id;
-}
 
 } // namespace
 
