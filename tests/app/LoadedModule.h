@@ -1,5 +1,5 @@
-// ZNKTControls.arx as the host loads it, with its exported functions looked up by name: nothing of it is linked, so that
-// it really leaves the process when it is unloaded.
+// ZNKTControls.arx as the host loads it, with its exported functions looked up by name: nothing of it is linked, so
+// that it really leaves the process when it is unloaded.
 #pragma once
 
 #include "msg/KTMsgWnd.h"
@@ -38,7 +38,8 @@ public:
     bool Add(const wchar_t* group, const wchar_t* text) const
     {
         const auto add = Find<decltype(&KTMsgWnd::AddMsg)>(
-            "_ZN8KTMsgWnd6AddMsgENS_8EMsgTypeEPKwS2_bPK7AcArrayI12AcDbObjectId24AcArrayMemCopyReallocatorIS4_EEPK11AcDbExtents");
+            "_ZN8KTMsgWnd6AddMsgENS_8EMsgTypeEPKwS2_bPK7AcArrayI12AcDbObjectId24AcArrayMemCopyReallocatorIS4_"
+            "EEPK11AcDbExtents");
         return add != NULL && add(KTMsgWnd::eInfo, group, text, false, NULL, NULL);
     }
 

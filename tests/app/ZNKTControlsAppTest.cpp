@@ -105,7 +105,8 @@ SIZE_T PrivateBytes()
 {
     PROCESS_MEMORY_COUNTERS_EX counters = {};
     counters.cb = sizeof(counters);
-    ::GetProcessMemoryInfo(::GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters), sizeof(counters));
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
+                           sizeof(counters));
     return counters.PrivateUsage;
 }
 
@@ -141,7 +142,7 @@ TEST_F(ModuleEntry, ReportsTheInterfaceVersionItWasBuiltFor)
 {
     const LoadedModule module;
     ASSERT_TRUE(module.IsLoaded());
-    EXPECT_EQ(acrxGetApiVersion(), module.ApiVersion());
+    EXPECT_EQ(arxrx::kApiVersion, module.ApiVersion());
 }
 
 TEST_F(ModuleEntry, AnswersEveryOtherMessageWithOk)

@@ -1,7 +1,11 @@
 // Objects in the current drawing for tests.
 #pragma once
 
+#include <acdb.h>
+#include <dbapserv.h>
 #include <dbents.h>
+#include <dbmain.h>
+#include <dbsymtb.h>
 
 // A line of model space of the current document.
 inline AcDbObjectId AddLine(const AcGePoint3d& start, const AcGePoint3d& end)

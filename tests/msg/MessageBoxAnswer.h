@@ -5,7 +5,7 @@
 //   EXPECT_EQ(1u, answer.Boxes().size());
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <string>
 #include <vector>

@@ -17,7 +17,8 @@ protected:
     void AddFour()
     {
         const AcDbExtents area(AcGePoint3d(100, 100, 0), AcGePoint3d(300, 200, 0));
-        m_lines = {AddLine(AcGePoint3d(0, 0, 0), AcGePoint3d(40, 20, 0)), AddLine(AcGePoint3d(5, 5, 0), AcGePoint3d(6, 6, 0))};
+        m_lines = {AddLine(AcGePoint3d(0, 0, 0), AcGePoint3d(40, 20, 0)),
+                   AddLine(AcGePoint3d(5, 5, 0), AcGePoint3d(6, 6, 0))};
         const AcArray<AcDbObjectId> first = Ids(m_lines[0]);
         const AcArray<AcDbObjectId> second = Ids(m_lines[1]);
         Add(L"g", L"nothing", true);

@@ -20,8 +20,9 @@ protected:
     }
 };
 
-constexpr int kToolRow[] = {IDC_SHOW_TREE,      IDC_SEPARATOR_DELETE, IDC_DELETE_SELECTED, IDC_DELETE_SHOWN,
-                            IDC_SEPARATOR_ZOOM, IDC_ZOOM,             IDC_FLASH,           IDC_SELECT};
+constexpr int kToolRow[] = {
+    IDC_SHOW_TREE, IDC_SEPARATOR_DELETE, IDC_DELETE_SELECTED, IDC_DELETE_SHOWN, IDC_SEPARATOR_ZOOM, IDC_ZOOM, IDC_FLASH,
+    IDC_SELECT};
 
 } // namespace
 

@@ -32,9 +32,8 @@ TEST_F(ViewerRefresh, ControlsHaveTheirPublishedIdentifiers)
     {
         int id;
         const wchar_t* className;
-    } controls[] = {{100, WC_TABCONTROLW}, {101, L"Button"}, {103, WC_LISTVIEWW}, {104, L"Static"},
-                    {105, WC_TREEVIEWW},   {106, L"Button"}, {107, L"Button"},    {108, L"Button"},
-                    {109, L"Button"},      {112, L"Button"}};
+    } controls[] = {{100, WC_TABCONTROLW}, {101, L"Button"}, {103, WC_LISTVIEWW}, {104, L"Static"}, {105, WC_TREEVIEWW},
+                    {106, L"Button"},      {107, L"Button"}, {108, L"Button"},    {109, L"Button"}, {112, L"Button"}};
     for (const auto& control : controls)
     {
         wchar_t name[64] = L"";
@@ -73,7 +72,9 @@ TEST_F(ViewerRefresh, ColumnsHaveTheirTextsAndWidths)
         ::SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
         EXPECT_EQ(texts[static_cast<size_t>(column)], text);
         if (column < 3)
+        {
             EXPECT_EQ(widths[column], ListView_GetColumnWidth(Item(IDC_LIST), column));
+        }
     }
 }
 

@@ -19,15 +19,9 @@ protected:
         ForgetLayouts();
     }
 
-    ~ViewerFixture() override
-    {
-        CMsgViewWnd::DestroyInstance();
-    }
+    ~ViewerFixture() override { CMsgViewWnd::DestroyInstance(); }
 
-    static void SetShowTree(bool show)
-    {
-        AfxGetApp()->WriteProfileInt(L"消息查看器", L"显示树", show);
-    }
+    static void SetShowTree(bool show) { AfxGetApp()->WriteProfileInt(L"消息查看器", L"显示树", show); }
 
     // What the host keeps about places of palettes.
     static void ForgetLayouts() { AfxGetApp()->WriteProfileString(L"Palettes", NULL, NULL); }
@@ -65,8 +59,8 @@ protected:
         item.iSubItem = column;
         item.pszText = &text[0];
         item.cchTextMax = room;
-        text.resize(static_cast<size_t>(
-            ::SendMessageW(Item(IDC_LIST), LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item))));
+        text.resize(static_cast<size_t>(::SendMessageW(Item(IDC_LIST), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
+                                                       reinterpret_cast<LPARAM>(&item))));
         return text;
     }
     static Texts Column(int column)
