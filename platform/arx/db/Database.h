@@ -24,7 +24,7 @@ public:
     ACRX_DECLARE_MEMBERS(AcDbDatabase);
 
     // With `buildDefaultDrawing` the drawing has its block table with model and paper space and layer "0" at once.
-    // Without it has empty tables, into which dxfIn() reads. `noDocument` is taken for compatibility only.
+    // Without it has empty tables, for a reader to fill. `noDocument` is taken for compatibility only.
     explicit AcDbDatabase(bool buildDefaultDrawing = true, bool noDocument = false);
     // Forgets every object; their identifiers stay unknown for ever.
     virtual ~AcDbDatabase();
@@ -44,15 +44,16 @@ public:
     AcDbObjectId clayer() const;
     Acad::ErrorStatus setClayer(AcDbObjectId layerId);
 
-    // Adds an object that belongs to no table or block. The object stays open for writing. With a non-null `handle`
-    // it gets that handle; eHandleInUse when another object has it.
+    // Takes over an object that belongs to no table or block. The object stays open for writing. eAlreadyInDb for an
+    // object of a drawing.
     Acad::ErrorStatus addAcDbObject(AcDbObject* object);
     Acad::ErrorStatus addAcDbObject(AcDbObjectId& id, AcDbObject* object);
 
     // The object that was stored under this handle; eUnknownHandle when there is none.
     Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, bool createIfNotFound, const AcDbHandle& handle,
                                       Adesk::UInt32 xRefId = 0);
-    // Gives a newly added object the handle that its file names. eHandleInUse when another object has it.
+    // Gives a newly added object the handle that its file names. An object that got the same handle by itself gets
+    // another one; eHandleInUse when it was assigned, too.
     Acad::ErrorStatus assignHandle(AcDbObjectId id, const AcDbHandle& handle);
     // Objects that are not erased, tables included.
     Adesk::Int32 approxNumObjects() const;

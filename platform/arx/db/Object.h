@@ -39,7 +39,7 @@ public:
     bool isNewObject() const;
     // eNotInDatabase outside a drawing. Objects that were open for writing tell the drawing's reactors what changed.
     Acad::ErrorStatus close();
-    // eNotOpenForRead when it is not open, eAtMaxReaders when others read it too.
+    // eNotOpenForRead when it is not open, eWasOpenForRead when others read it too.
     Acad::ErrorStatus upgradeOpen();
     Acad::ErrorStatus downgradeOpen();
 

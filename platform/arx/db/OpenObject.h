@@ -2,7 +2,7 @@
 //
 // Results: eNullObjectId and eUnknownObjectId for identifiers that name nothing, eWasErased for erased objects unless
 // `openErased`, eWasOpenForWrite while a writer has it, eWasOpenForRead when a writer meets readers, eAtMaxReaders
-// beyond 256 readers, eNotThatKindOfClass (the object is closed again) when it is of another class.
+// beyond 256 readers, eNotThatKindOfClass (eNotAnEntity) when it is of another class; it is closed again then.
 #pragma once
 
 #include "Entity.h"

@@ -91,5 +91,12 @@ protected:
     // The class of records that this table takes.
     virtual AcRxClass* recordClass() const = 0;
 
+private:
+    friend class AcDbDatabase;
+    friend class AcDbSymbolTableRecord;
+
+    // Null when there is none; asks nothing of the opening state.
+    AcDbObjectId Find(const ACHAR* name) const;
+
     arxdb::NameTable* m_records;
 };

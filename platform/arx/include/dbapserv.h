@@ -2,6 +2,7 @@
 #pragma once
 
 #include "acadstrc.h"
+
 #include "arx/Api.h"
 
 class AcDbDatabase;

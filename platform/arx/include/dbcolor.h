@@ -83,6 +83,9 @@ public:
     bool operator!=(const AcCmEntityColor& other) const { return m_packed != other.m_packed; }
 
 private:
+    // 0x00RRGGBB, 0 for methods without a colour of their own.
+    Adesk::UInt32 Rgb24() const;
+
     Adesk::UInt32 m_packed;
 };
 
