@@ -1,7 +1,7 @@
 // CListCtrl: the list view control.
 //
 // Texts of any length are read and written: GetItemText with a CString has no limit. The header of a report list is
-// a permanent object owned by this one.
+// the client's object that subclassed it, otherwise an object that lives as long as this one.
 #pragma once
 
 #include <commctrl.h>
@@ -126,10 +126,7 @@ public:
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
-    afx_msg void OnNcDestroy();
-
-    DECLARE_MESSAGE_MAP()
-
 private:
+    // Stays out of the handle map, so that a client can subclass the header with an object of its own.
     CHeaderCtrl m_header;
 };

@@ -3,11 +3,13 @@
 // The filter is written "name|pattern|name|pattern||". Results are valid after DoModal returned IDOK.
 #pragma once
 
+#include <commdlg.h>
+
 #include <vector>
 
-#include "afx/dialog/Dialog.h"
+#include "afx/dialog/CommonDialog.h"
 
-class AFX_API CFileDialog : public CDialog
+class AFX_API CFileDialog : public CCommonDialog
 {
     DECLARE_DYNAMIC(CFileDialog)
 

@@ -4,4 +4,6 @@
 #include <afxwin.h>
 #include <commdlg.h>
 
+#include "afx/dialog/ColorDialog.h"
+#include "afx/dialog/CommonDialog.h"
 #include "afx/dialog/FileDialog.h"

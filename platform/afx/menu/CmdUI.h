@@ -24,7 +24,7 @@ public:
     CMenu* m_pSubMenu = nullptr; // set where a submenu is represented by its first item
     CWnd* m_pOther = nullptr;
 
-    // Each does nothing to a submenu's own entry but Enable, which greys it.
+    // The entry of a submenu is left as it is: a handler that means it changes m_pMenu itself.
     virtual void Enable(BOOL on = TRUE);
     virtual void SetCheck(int check = 1); // 0 off, 1 on, 2 indeterminate (buttons only)
     virtual void SetRadio(BOOL on = TRUE);
@@ -41,9 +41,6 @@ public:
     BOOL m_bContinueRouting = FALSE;
     UINT m_nIndexMax = 0; // number of items in m_pMenu
     CMenu* m_pParentMenu = nullptr; // NULL or the menu that holds m_pMenu
-
-private:
-    void UpdateMenuItem(UINT state, bool radio);
 };
 
 // Runs DoUpdate over every item of a menu that is about to be shown by owner: the update loop of WM_INITMENUPOPUP.
