@@ -1,9 +1,9 @@
 // CHeaderCtrl: the column headings of a list.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx/wnd/Wnd.h"
+
+#include <commctrl.h>
 
 class CImageList;
 

@@ -4,10 +4,10 @@
 // the client's object that subclassed it, otherwise an object that lives as long as this one.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx/ctrl/HeaderCtrl.h"
 #include "afx/wnd/Wnd.h"
+
+#include <commctrl.h>
 
 class CEdit;
 class CImageList;

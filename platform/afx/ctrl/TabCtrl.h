@@ -1,9 +1,9 @@
 // CTabCtrl: a row of tabs.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx/wnd/Wnd.h"
+
+#include <commctrl.h>
 
 class CImageList;
 class CToolTipCtrl;

@@ -1,5 +1,7 @@
 #include "afx/ctrl/ToolTipCtrl.h"
 
+#include "afx/app/Resource.h"
+
 IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
 namespace
@@ -76,7 +78,7 @@ BOOL CToolTipCtrl::HitTest(CWnd* window, CPoint point, LPTOOLINFO info) const
     TTHITTESTINFO hit = {};
     hit.hwnd = window->GetSafeHwnd();
     hit.pt = point;
-    hit.ti.cbSize = TTTOOLINFO_V2_SIZE;
+    hit.ti.cbSize = TTTOOLINFOW_V2_SIZE;
     if (!::SendMessage(m_hWnd, TTM_HITTEST, 0, LPARAM(&hit)))
         return FALSE;
     *info = hit.ti;
@@ -117,7 +119,7 @@ CSize CToolTipCtrl::GetBubbleSize(LPTOOLINFO info) const
 void CToolTipCtrl::FillInToolInfo(TOOLINFO& info, CWnd* window, UINT_PTR id)
 {
     ZeroMemory(&info, sizeof(info));
-    info.cbSize = TTTOOLINFO_V2_SIZE;
+    info.cbSize = TTTOOLINFOW_V2_SIZE;
     info.hwnd = window->GetSafeHwnd();
     if (id != 0)
     {

@@ -5,9 +5,9 @@
 // A dialog shows its tips by passing mouse messages to RelayEvent in PreTranslateMessage.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx/wnd/Wnd.h"
+
+#include <commctrl.h>
 
 // Description of a tool together with room for its text.
 class CToolInfo : public TOOLINFO

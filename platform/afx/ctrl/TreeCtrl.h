@@ -1,9 +1,9 @@
 // CTreeCtrl: the tree view control.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx/wnd/Wnd.h"
+
+#include <commctrl.h>
 
 class CEdit;
 class CImageList;

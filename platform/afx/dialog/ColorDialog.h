@@ -1,9 +1,9 @@
 // CColorDialog: the system's dialog for choosing a colour. The custom colours are kept while the program runs.
 #pragma once
 
-#include <commdlg.h>
-
 #include "afx/dialog/CommonDialog.h"
+
+#include <commdlg.h>
 
 class AFX_API CColorDialog : public CCommonDialog
 {

@@ -1,7 +1,7 @@
 #include "afx/dialog/Dialog.h"
 
 #include "afx/app/Resource.h"
-#include "afx/app/WinThread.h"
+#include "afx/app/WinApp.h"
 #include "afx/dialog/DialogTemplateLock.h"
 #include "afx/gdi/GdiObject.h"
 #include "afx/wnd/MessageMacros.h"

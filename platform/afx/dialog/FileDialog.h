@@ -3,11 +3,10 @@
 // The filter is written "name|pattern|name|pattern||". Results are valid after DoModal returned IDOK.
 #pragma once
 
-#include <commdlg.h>
-
-#include <vector>
-
 #include "afx/dialog/CommonDialog.h"
+
+#include <commdlg.h>
+#include <vector>
 
 class AFX_API CFileDialog : public CCommonDialog
 {
