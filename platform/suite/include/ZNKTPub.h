@@ -1,4 +1,4 @@
-// The suite's companion module: folders, colours by name, message boxes.
+﻿// The suite's companion module: folders, colours by name, message boxes.
 #pragma once
 
 #include "afx.h"

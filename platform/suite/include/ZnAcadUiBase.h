@@ -4,6 +4,8 @@
 #include "acarray.h"
 #include "dbid.h"
 
+#include <set>
+
 class AcDbExtents;
 
 #ifdef ZnAcadUiBase_EXPORTS
@@ -29,7 +31,7 @@ private:
     CHighlighter(const CHighlighter&);
     void operator=(const CHighlighter&);
 
-    AcArray<AcDbObjectId> m_ids;
+    std::set<AcDbObjectId> m_ids;
 };
 
 // The box around all of the objects that have one. False, with `extents` as they were, when none has.

@@ -52,15 +52,15 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT drawItem) override;
 
 protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PreSubclassWindow() override;
 
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
-    afx_msg LRESULT OnMouseLeave(WPARAM, LPARAM);
+    afx_msg void OnMouseLeave();
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnEnable(BOOL enable);
     afx_msg UINT OnGetDlgCode();
-    afx_msg LRESULT OnSetText(WPARAM, LPARAM text);
     afx_msg LRESULT OnGetCheck(WPARAM, LPARAM);
     afx_msg LRESULT OnSetCheck(WPARAM check, LPARAM);
     afx_msg LRESULT OnSetStyle(WPARAM style, LPARAM redraw);
@@ -71,10 +71,13 @@ private:
     struct OwnedIcons;
 
     void SetHot(BOOL hot);
-    void MakeOwnerDrawn();
+    void TakeIcons(CSize size, HICON icon, HICON pressed, BOOL redraw);
+    void Redraw(BOOL redraw);
+    void Paint(HDC dc, const RECT& rect, UINT itemState) const;
+    void FillBackground(HDC dc, const RECT& rect) const;
+    const CXTButtonTheme& GetDrawTheme() const;
     XTButtonState GetDrawState(UINT itemState) const;
     XTButtonContent GetContent(const XTButtonState& state) const;
-    void FillBackground(HDC dc, const RECT& rect) const;
 
     DWORD m_style;
     std::unique_ptr<CXTButtonTheme> m_theme;

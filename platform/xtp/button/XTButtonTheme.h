@@ -1,4 +1,5 @@
-// CXTButtonTheme: draws a CXTButton. This one is the classic look with raised and sunken edges, and the base of the others.
+// CXTButtonTheme: draws a CXTButton. This one is the classic look with raised and sunken edges, and the base of the
+// others.
 //
 // A theme holds no window and no handle. Drawing takes everything as arguments, so that one theme object could serve
 // any button and a test can draw without a window. Rectangles are in pixels of the device context given.
@@ -16,8 +17,8 @@ struct XTButtonContent
     SIZE iconSize;
     CString caption;
     HFONT font;
-    bool stacked;     // the icon above the caption
-    bool hidePrefix;  // the keyboard cues are off: no underlined letter
+    bool stacked;    // the icon above the caption
+    bool hidePrefix; // the keyboard cues are off: no underlined letter
 };
 
 class XTP_API CXTButtonTheme : public CObject
@@ -39,4 +40,8 @@ protected:
     // How far the content moves while the button is in.
     virtual SIZE GetPressedOffset() const;
     virtual COLORREF GetTextColor(const XTButtonState& state, const XTButtonColors& colors) const;
+
+private:
+    void DrawContent(HDC dc, const RECT& rect, const XTButtonState& state, const XTButtonContent& content,
+                     const XTButtonColors& colors) const;
 };

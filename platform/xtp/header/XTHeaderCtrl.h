@@ -24,8 +24,6 @@ public:
     BOOL IsSortedAscending() const { return m_ascending; }
 
 protected:
-    afx_msg void OnPaint();
-
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -1,0 +1,11 @@
+#include <afxwin.h>
+#include <arxEntryPoint.h>
+
+// The functions of the module need no set-up of their own: loading and unloading is all.
+class CZNKTPubApp : public AcRxArxApp
+{
+public:
+    void RegisterServerComponents() override {}
+};
+
+IMPLEMENT_ARX_ENTRYPOINT(CZNKTPubApp)
