@@ -1,0 +1,140 @@
+﻿#include "host/FrameShot.h"
+
+#include "arx/ui/GdiGuards.h"
+
+#include <algorithm>
+#include <objidl.h>
+#include <vector>
+
+// The header was written for the macros min and max.
+namespace Gdiplus
+{
+using std::max;
+using std::min;
+} // namespace Gdiplus
+#include <gdiplus.h>
+
+namespace arxhost
+{
+namespace
+{
+
+class GdiPlusGuard
+{
+public:
+    GdiPlusGuard() : m_started(Gdiplus::GdiplusStartup(&m_token, &m_input, nullptr) == Gdiplus::Ok) {}
+    ~GdiPlusGuard()
+    {
+        if (m_started)
+            Gdiplus::GdiplusShutdown(m_token);
+    }
+    GdiPlusGuard(const GdiPlusGuard&) = delete;
+    GdiPlusGuard& operator=(const GdiPlusGuard&) = delete;
+
+    bool IsStarted() const { return m_started; }
+
+private:
+    Gdiplus::GdiplusStartupInput m_input;
+    ULONG_PTR m_token = 0;
+    bool m_started;
+};
+
+bool FindPngEncoder(CLSID& encoder)
+{
+    UINT count = 0;
+    UINT size = 0;
+    Gdiplus::GetImageEncodersSize(&count, &size);
+    std::vector<BYTE> buffer(size);
+    Gdiplus::ImageCodecInfo* codecs = reinterpret_cast<Gdiplus::ImageCodecInfo*>(buffer.data());
+    if (size == 0 || Gdiplus::GetImageEncoders(count, size, codecs) != Gdiplus::Ok)
+        return false;
+    for (UINT i = 0; i < count; ++i)
+    {
+        if (std::wstring(codecs[i].MimeType) == L"image/png")
+        {
+            encoder = codecs[i].Clsid;
+            return true;
+        }
+    }
+    return false;
+}
+
+struct PopupSearch
+{
+    HWND owner;
+    CRect area;
+};
+
+BOOL CALLBACK AddPopup(HWND window, LPARAM search)
+{
+    PopupSearch& found = *reinterpret_cast<PopupSearch*>(search);
+    CRect rect;
+    if (GetWindow(window, GW_OWNER) == found.owner && IsWindowVisible(window) && GetWindowRect(window, &rect))
+        found.area.UnionRect(&found.area, &rect);
+    return TRUE;
+}
+
+BOOL CALLBACK PaintPopup(HWND window, LPARAM owner)
+{
+    const bool isShown = window == reinterpret_cast<HWND>(owner) || GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner);
+    if (isShown && IsWindowVisible(window))
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+    return TRUE;
+}
+
+class ScreenDc
+{
+public:
+    ScreenDc() : m_dc(GetDC(nullptr)) {}
+    ~ScreenDc() { ReleaseDC(nullptr, m_dc); }
+    ScreenDc(const ScreenDc&) = delete;
+    ScreenDc& operator=(const ScreenDc&) = delete;
+
+    HDC Get() const { return m_dc; }
+
+private:
+    HDC m_dc;
+};
+
+HBITMAP CopyScreen(const CRect& area)
+{
+    const ScreenDc screen;
+    const HDC memory = CreateCompatibleDC(screen.Get());
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen.Get(), area.Width(), area.Height());
+    {
+        const arxui::SelectGuard selected(memory, bitmap);
+        BitBlt(memory, 0, 0, area.Width(), area.Height(), screen.Get(), area.left, area.top, SRCCOPY);
+    }
+    DeleteDC(memory);
+    return bitmap;
+}
+
+} // namespace
+
+CRect AreaWithPopups(HWND window)
+{
+    PopupSearch search{window, CRect()};
+    GetWindowRect(window, &search.area);
+    EnumWindows(&AddPopup, reinterpret_cast<LPARAM>(&search));
+    const CRect screen(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+    CRect visible;
+    visible.IntersectRect(&search.area, &screen);
+    return visible;
+}
+
+std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path)
+{
+    const GdiPlusGuard gdiPlus;
+    CLSID encoder{};
+    if (!gdiPlus.IsStarted() || !FindPngEncoder(encoder))
+        return L"系统不能生成 PNG 图片。";
+    EnumWindows(&PaintPopup, reinterpret_cast<LPARAM>(frame.m_hWnd));
+    GdiFlush();
+    const arxui::GdiObject<HBITMAP> shot(CopyScreen(AreaWithPopups(frame.m_hWnd)));
+    Gdiplus::Bitmap picture(shot.Get(), nullptr);
+    if (picture.Save(path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
+        return L"无法写入图片“" + path + L"”。";
+    return std::wstring();
+}
+
+} // namespace arxhost

@@ -1,0 +1,114 @@
+﻿#include "host/HostApp.h"
+
+#include "host/HostCommands.h"
+#include "host/MainFrame.h"
+#include "host/StandardOutput.h"
+
+#include <acui.h>
+
+#include <algorithm>
+#include <shellapi.h>
+
+namespace arxhost
+{
+namespace
+{
+
+const wchar_t programName[] = L"图形主机";
+const wchar_t registryKey[] = L"ArxHost";
+const int failureCode = 1;
+// A pausing script looks at its clock this often, milliseconds.
+const unsigned scriptPause = 20;
+
+std::vector<std::wstring> ProgramArguments()
+{
+    int count = 0;
+    wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::wstring> arguments(words + std::min(count, 1), words + count);
+    LocalFree(words);
+    return arguments;
+}
+
+} // namespace
+
+HostApp::HostApp() : CWinApp(programName)
+{
+}
+
+BOOL HostApp::InitInstance()
+{
+    SetRegistryKey(registryKey);
+    InitAcUiDLL();
+    const HostArguments arguments = ReadArguments(ProgramArguments());
+    if (arguments.error.empty() && Start(arguments))
+        return TRUE;
+    m_exitCode = failureCode;
+    if (!arguments.error.empty())
+        WriteStandardOutput(L"错误：" + arguments.error + L"\n");
+    return FALSE;
+}
+
+BOOL HostApp::OnIdle(LONG count)
+{
+    const BOOL more = CWinApp::OnIdle(count);
+    if (m_frame == nullptr || m_closing || !(m_frame->IsUnattended() || !m_frame->Scripts().IsEmpty()))
+        return more;
+    RunScripts();
+    return TRUE;
+}
+
+int HostApp::ExitInstance()
+{
+    CWinApp::ExitInstance();
+    return m_exitCode;
+}
+
+bool HostApp::Start(const HostArguments& arguments)
+{
+    m_frame = new MainFrame;
+    m_pMainWnd = m_frame;
+    if (!m_frame->Create())
+        return false;
+    if (!arguments.script.empty())
+        m_frame->SetUnattended();
+    m_frame->ShowWindow(m_nCmdShow);
+    m_frame->UpdateWindow();
+    for (const std::wstring& drawing : arguments.drawings)
+        Attempt([&] { m_frame->OpenDrawing(drawing); });
+    if (Documents().empty() && arguments.drawings.empty())
+        NewDocument();
+    for (const std::wstring& module : arguments.modules)
+        Attempt([&] { m_frame->LoadModule(module); });
+    if (!arguments.script.empty() && !m_frame->HasFailed())
+        Attempt([&] { m_frame->StartScript(arguments.script); });
+    return true;
+}
+
+void HostApp::Attempt(const std::function<void()>& step)
+{
+    try
+    {
+        step();
+    }
+    catch (const CommandFailure& failure)
+    {
+        m_frame->Fail(failure.message);
+    }
+}
+
+void HostApp::RunScripts()
+{
+    ScriptRunner& scripts = m_frame->Scripts();
+    if (const unsigned waiting = scripts.Waiting())
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, std::min(waiting, scriptPause), QS_ALLINPUT);
+    else if (!scripts.IsEmpty())
+        m_frame->StepScript();
+    else
+    {
+        m_closing = true;
+        m_exitCode = m_frame->HasFailed() ? failureCode : 0;
+        m_frame->PostMessage(WM_CLOSE);
+    }
+}
+
+} // namespace arxhost

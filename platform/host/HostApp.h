@@ -1,0 +1,34 @@
+// The program: starts the frame with what the arguments name, and runs scripts while the message queue is empty.
+#pragma once
+
+#include <afxwin.h>
+
+#include "host/CommandLine.h"
+
+#include <functional>
+
+namespace arxhost
+{
+
+class MainFrame;
+
+class HostApp : public CWinApp
+{
+public:
+    HostApp();
+
+    BOOL InitInstance() override;
+    BOOL OnIdle(LONG count) override;
+    int ExitInstance() override;
+
+private:
+    bool Start(const HostArguments& arguments);
+    void Attempt(const std::function<void()>& step);
+    void RunScripts();
+
+    MainFrame* m_frame = nullptr; // deletes itself with its window
+    int m_exitCode = 0;
+    bool m_closing = false;
+};
+
+} // namespace arxhost

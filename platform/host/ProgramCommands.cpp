@@ -1,0 +1,118 @@
+﻿// ARX SCRIPT DELAY SHOT HELP QUIT: commands on the program.
+#include "host/FrameShot.h"
+#include "host/HostCommands.h"
+#include "host/MainFrame.h"
+
+#include "rxregsvc.h"
+
+#include <afxdlgs.h>
+
+namespace arxhost
+{
+namespace
+{
+
+const wchar_t arxUsage[] = L"ARX（模块） L 模块.arx | U 模块.arx | ?：加载、卸载、列出模块";
+const wchar_t scriptUsage[] = L"SCRIPT（脚本） 文件.scr：逐行运行脚本";
+const wchar_t delayUsage[] = L"DELAY（延时） 毫秒：脚本暂停一段时间";
+const wchar_t shotUsage[] = L"SHOT（画面） 文件.png：把窗口和浮动面板保存为图片";
+const wchar_t helpUsage[] = L"HELP（帮助、?）：命令列表";
+const wchar_t quitUsage[] = L"QUIT（退出）：结束程序";
+
+const int longestDelay = 60000;
+
+std::wstring AskForFile(MainFrame& frame, const Words& words, bool open, const wchar_t* extension, const wchar_t* filter,
+                        const wchar_t* usage)
+{
+    if (!words.empty())
+        return words[0];
+    if (frame.IsUnattended())
+        NeedWord(words, 0, usage);
+    const DWORD flags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (open ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT);
+    CFileDialog dialog(open, extension, NULL, flags, filter, &frame);
+    return dialog.DoModal() == IDOK ? std::wstring(dialog.GetPathName().GetString()) : std::wstring();
+}
+
+void ListModules(MainFrame& frame)
+{
+    const std::vector<std::wstring> modules = LoadedModules();
+    std::wstring text = modules.empty() ? L"没有加载模块\n" : L"已加载的模块：\n";
+    for (const std::wstring& module : modules)
+        text += L"  " + module + L"\n";
+    frame.Command().Print(text);
+}
+
+void UnloadModule(const std::wstring& name)
+{
+    if (!acrxUnloadModule(name.c_str(), true))
+        throw CommandFailure{L"模块“" + name + L"”不能卸载。"};
+}
+
+void Arx(MainFrame& frame, const Words& words)
+{
+    if (!words.empty() && HasName(L"?,LIST,列出", words[0]))
+    {
+        ListModules(frame);
+        return;
+    }
+    const bool unload = !words.empty() && HasName(L"U,UNLOAD,卸载", words[0]);
+    const bool load = !words.empty() && HasName(L"L,LOAD,加载", words[0]);
+    const Words names(words.begin() + (load || unload ? 1 : 0), words.end());
+    const std::wstring name = AskForFile(frame, names, true, L"arx", L"模块 (*.arx)|*.arx||", arxUsage);
+    if (name.empty())
+        return;
+    if (unload)
+        UnloadModule(name);
+    else
+        frame.LoadModule(name);
+}
+
+void Script(MainFrame& frame, const Words& words)
+{
+    const std::wstring path = AskForFile(frame, words, true, L"scr", L"脚本 (*.scr)|*.scr||", scriptUsage);
+    if (!path.empty())
+        frame.StartScript(path);
+}
+
+void Delay(MainFrame& frame, const Words& words)
+{
+    const int milliseconds = NeedNumber(NeedWord(words, 0, delayUsage));
+    if (milliseconds < 0 || milliseconds > longestDelay)
+        throw CommandFailure{L"延时应在 0 到 60000 毫秒之间。"};
+    frame.Scripts().Delay(static_cast<unsigned>(milliseconds));
+}
+
+void Shot(MainFrame& frame, const Words& words)
+{
+    const std::wstring path = AskForFile(frame, words, false, L"png", L"图片 (*.png)|*.png||", shotUsage);
+    if (path.empty())
+        return;
+    const std::wstring error = SaveFrameShot(frame, path);
+    if (!error.empty())
+        throw CommandFailure{error};
+    frame.Command().Print(L"画面已保存：" + path + L"\n");
+}
+
+void Help(MainFrame& frame, const Words& /*words*/)
+{
+    frame.Command().Print(CommandHelp());
+}
+
+void Quit(MainFrame& frame, const Words& /*words*/)
+{
+    frame.Scripts().Clear();
+    frame.PostMessage(WM_CLOSE);
+}
+
+} // namespace
+
+std::vector<HostCommand> ProgramCommands()
+{
+    return {
+        {L"ARX,APPLOAD,模块", arxUsage, &Arx},   {L"SCRIPT,SCR,脚本", scriptUsage, &Script},
+        {L"DELAY,延时", delayUsage, &Delay},     {L"SHOT,画面", shotUsage, &Shot},
+        {L"HELP,?,帮助", helpUsage, &Help},      {L"QUIT,EXIT,退出", quitUsage, &Quit},
+    };
+}
+
+} // namespace arxhost

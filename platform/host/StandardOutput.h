@@ -1,0 +1,12 @@
+// The program's standard output, where it has one: a shell that started a script reads there what the command line says.
+#pragma once
+
+#include <string>
+
+namespace arxhost
+{
+
+// Writes the text as UTF-8; nothing without a standard output.
+void WriteStandardOutput(const std::wstring& text);
+
+} // namespace arxhost
