@@ -22,7 +22,10 @@ inline size_t CountGdiObjects()
     constexpr size_t tableOffsetInPeb = 0xF8;
     constexpr size_t entryCount = 65536;
 
-    const auto peb = reinterpret_cast<const BYTE*>(__readgsqword(0x60));
+    // Asking for the function by name spares the compiler the read at a fixed address, which it takes for an error.
+    typedef const BYTE*(NTAPI * GetPeb)();
+    const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb");
+    const BYTE* peb = reinterpret_cast<GetPeb>(reinterpret_cast<void*>(found))();
     const Entry* entries = *reinterpret_cast<const Entry* const*>(peb + tableOffsetInPeb);
     size_t count = 0;
     for (size_t index = 0; index < entryCount; ++index)
