@@ -85,6 +85,8 @@ public:
 
     // Shows or hides the bar with the frame's next layout.
     virtual void DelayShow(BOOL show);
+    // Does what DelayShow asked for now. Result: the window style after that.
+    virtual DWORD RecalcDelayShow();
 
     // Brings the items up to date by routing CN_UPDATE_COMMAND_UI to target.
     virtual void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) = 0;
@@ -113,8 +115,6 @@ protected:
     void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Called for every WM_SIZEPARENT.
-    virtual DWORD RecalcDelayShow(AFX_SIZEPARENTPARAMS* layout);
     void DrawBorders(CDC* dc, CRect& rect);
     virtual void DoPaint(CDC* dc);
 
@@ -123,6 +123,7 @@ protected:
     afx_msg void OnPaint();
     virtual afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
+    afx_msg LRESULT OnInitialUpdate(WPARAM, LPARAM);
 
     DECLARE_MESSAGE_MAP()
 

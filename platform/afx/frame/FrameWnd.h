@@ -6,6 +6,7 @@
 #pragma once
 
 #include <afxcoll.h>
+#include <afxres.h>
 
 #include "afx/frame/CreateContext.h"
 #include "afx/wnd/Wnd.h"
@@ -68,6 +69,7 @@ public:
 
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo) override;
     BOOL PreTranslateMessage(MSG* message) override;
+    BOOL IsFrameWnd() const override { return TRUE; }
 
 protected:
     enum IdleFlags
@@ -79,9 +81,8 @@ protected:
     virtual BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context);
     int OnCreateHelper(LPCREATESTRUCT create, CCreateContext* context);
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
-    // Menu bar, where the platform shows it: the class of the frame decides.
+    // The keys that PreTranslateMessage turns into commands.
     virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
 
     afx_msg int OnCreate(LPCREATESTRUCT create);

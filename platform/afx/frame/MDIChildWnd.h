@@ -30,7 +30,6 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
-    afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg int OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message);
     afx_msg void OnMDIActivate(BOOL activate, CWnd* activated, CWnd* deactivated);
 

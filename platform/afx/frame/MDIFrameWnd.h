@@ -44,7 +44,6 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnSize(UINT type, int cx, int cy);
-    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
 
     DECLARE_MESSAGE_MAP()
 };

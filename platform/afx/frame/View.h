@@ -24,6 +24,7 @@ public:
 protected:
     friend class CDocument;
     friend class CFrameWnd;
+    friend class CMDIChildWnd;
 
     virtual void OnDraw(CDC* dc) = 0;
     // sender changed the document, NULL for others. The base redraws everything.
