@@ -1,0 +1,24 @@
+// Makes entities from the records of a file.
+#pragma once
+
+#include "DxfContext.h"
+
+namespace arxdxf
+{
+
+// Fills in the entity, its block name and so on, but not what all entities have in common. False for a type that the
+// program does not draw. Throws DxfError for a record with missing or contradictory data.
+bool MakeEntity(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
+
+// A polyline of the old kind with its VERTEX records; false for meshes, which the program does not draw.
+bool MakeOldPolyline(const DxfRecord& polyline, const std::vector<DxfRecord>& vertices, DxfEntity& entity);
+
+// The kinds that take more than a few lines.
+void MakeHatch(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
+void MakeText(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
+void MakeMText(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
+
+// Layer, colour, visibility and handle. Called once for each entity.
+void ReadCommon(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
+
+} // namespace arxdxf
