@@ -8,10 +8,9 @@ arxhost::HostApp theApp;
 
 } // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show)
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR /*commandLine*/, int show)
 {
-    if (!AfxWinInit(instance, previous, commandLine, show))
+    if (!AfxWinInit(instance, previous, GetCommandLineW(), show))
         return 1;
-    const int exitCode = theApp.InitInstance() ? theApp.Run() : theApp.ExitInstance();
-    return exitCode;
+    return theApp.InitInstance() ? theApp.Run() : theApp.ExitInstance();
 }
