@@ -15,7 +15,7 @@ const int kUnloadLine = 41;
 
 } // namespace
 
-CZNKTControlsApp::CZNKTControlsApp() : AcRxArxApp() {}
+CZNKTControlsApp::CZNKTControlsApp(const wchar_t* companion) : m_companion(companion) {}
 
 AcRx::AppRetCode CZNKTControlsApp::On_kInitAppMsg(void* pkt)
 {
