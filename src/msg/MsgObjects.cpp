@@ -47,13 +47,19 @@ private:
 
 void CollectObjects(const CZNMsgManager& store, const std::vector<int>& messageIds, AcArray<AcDbObjectId>& objects)
 {
+    // Room for all at once: the array itself grows by a few elements only.
+    int length = 0;
     for (size_t i = 0; i < messageIds.size(); ++i)
     {
         const CZNMsgData* const data = store.Peek(messageIds[i]);
-        if (data == NULL)
-            continue;
-        for (int k = 0; k < data->objectIds.length(); ++k)
-            objects.append(data->objectIds[k]);
+        length += data == NULL ? 0 : data->objectIds.length();
+    }
+    objects.setPhysicalLength(length);
+    for (size_t i = 0; i < messageIds.size(); ++i)
+    {
+        const CZNMsgData* const data = store.Peek(messageIds[i]);
+        if (data != NULL)
+            objects.append(data->objectIds);
     }
 }
 
