@@ -17,9 +17,10 @@ struct Modules
     std::vector<HINSTANCE> extensions;
 };
 
+// Never destroyed: extension modules leave late, some after this DLL's own statics are gone.
 Modules& TheModules()
 {
-    static Modules modules;
+    static Modules& modules = *new Modules;
     return modules;
 }
 

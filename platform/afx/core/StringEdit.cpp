@@ -25,7 +25,7 @@ bool IsSpace(wchar_t ch)
 int CountLeading(LPCWSTR text, int length, LPCWSTR set)
 {
     int count = 0;
-    while (count < length && wcschr(set, text[count]) != NULL)
+    while (count < length && text[count] != 0 && wcschr(set, text[count]) != NULL)
         ++count;
     return count;
 }

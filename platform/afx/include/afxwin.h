@@ -2,6 +2,7 @@
 #pragma once
 
 #include <afx.h>
+#include <afxcoll.h>
 #include <afxres.h>
 
 #include "afx/wnd/Wnd.h"

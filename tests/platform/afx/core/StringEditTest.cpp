@@ -135,6 +135,13 @@ TEST(StringEdit, TrimsCharactersAndSets)
     EXPECT_STREQ(L"", CString(L"+-+").Trim(L"+-"));
 }
 
+TEST(StringEdit, TrimmingStopsAtAZeroCharacter)
+{
+    CString text(L"-\0-", 3);
+    EXPECT_EQ(2, text.TrimLeft(L"-").GetLength());
+    EXPECT_EQ(1, text.TrimRight(L"-").GetLength());
+}
+
 TEST(StringEdit, TrimmingACopyLeavesTheOriginal)
 {
     const CString text(L" a ");
