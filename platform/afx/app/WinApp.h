@@ -77,7 +77,7 @@ private:
     CString m_registryKey;
 };
 
-// Prepares the framework for the program. AfxWinTerm ends it; it runs by itself when the process ends.
+// Prepares the framework for the program. AfxWinTerm gives back what it holds at the end.
 AFX_API BOOL AFXAPI AfxWinInit(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show);
 AFX_API void AFXAPI AfxWinTerm();
 

@@ -61,10 +61,9 @@ public:
     DWORD m_nThreadID = 0;
     LPVOID m_pThreadParams = nullptr;
     AFX_THREADPROC m_pfnThreadProc = nullptr;
-    MSG m_msgCur = {};
 
 private:
-    static unsigned __stdcall ThreadEntry(void* start);
+    static unsigned __stdcall ThreadEntry(void* thread);
     DWORD RunThread();
 };
 

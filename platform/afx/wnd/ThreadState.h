@@ -44,10 +44,8 @@ class AFX_API AFX_MODULE_STATE
 public:
     CWinApp* m_pCurrentWinApp = nullptr;
     HINSTANCE m_hCurrentInstanceHandle = nullptr;
-    HINSTANCE m_hCurrentResourceHandle = nullptr;
     LPCTSTR m_lpszCurrentAppName = nullptr;
     BYTE m_bDLL = FALSE;
-    DWORD m_fRegisteredClasses = 0; // which of the framework's own window classes are registered
     CDynLinkLibrary* m_libraryList = nullptr; // extension modules, the newest first
 };
 
@@ -61,5 +59,5 @@ AFX_API AFX_MODULE_STATE* AFXAPI AfxGetAppModuleState();
 
 // Temporary objects (CWnd::FromHandle and its kin) live until the thread is idle. Locks nest.
 AFX_API void AFXAPI AfxLockTempMaps();
-// Deletes the temporary objects when the last lock is gone, or at once with deleteTemps = -1; FALSE keeps them.
+// The end of the last lock deletes the temporary objects, unless deleteTemps is FALSE. TRUE: another lock is left.
 AFX_API BOOL AFXAPI AfxUnlockTempMaps(BOOL deleteTemps = TRUE);
