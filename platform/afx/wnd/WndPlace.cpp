@@ -120,7 +120,7 @@ void CWnd::CenterWindow(CWnd* alternate)
     const CPoint middle = over.CenterPoint();
     const CPoint corner(middle.x - rect.Width() / 2, middle.y - rect.Height() / 2);
     const CRect place = MovedInto(CRect(corner, rect.Size()), area);
-    SetWindowPos(nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowPos(m_hWnd, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CWnd::RepositionBars(UINT idFirst, UINT idLast, UINT idLeftOver, UINT flags, LPRECT param, LPCRECT client,
