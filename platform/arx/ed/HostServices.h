@@ -6,6 +6,7 @@
 #include "acdocman.h"
 #include "aced.h"
 #include "acarray.h"
+#include "arx/dxf/DxfResult.h"
 #include "gepnt2d.h"
 
 #include <string>
@@ -73,11 +74,13 @@ struct OpenResult
     Acad::ErrorStatus status = Acad::eOk;
     // Of the file, from 1; 0 when the failure belongs to no line.
     int line = 0;
-    // Chinese sentence for the user; empty after success.
+    // Chinese text for the user; empty after success.
     std::wstring message;
+    // What the reader counted and warned of. Empty for a drawing that was open already.
+    arxdxf::DxfResult drawing;
 };
 
-// Program parts. Null takes them away again; the caller keeps their ownership.
+// Program parts. Null takes them away again; the caller keeps their ownership. The frame must have its window.
 ARX_API void SetMainFrame(CMDIFrameWnd* frame);
 ARX_API void SetPrintSink(IPrintSink* sink);
 ARX_API void SetHostUi(IHostUi* ui);

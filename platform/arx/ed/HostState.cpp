@@ -1,6 +1,6 @@
 #include "HostState.h"
 
-#include <windows.h>
+#include <afxwin.h>
 
 namespace arxed
 {
@@ -44,6 +44,12 @@ void HostState::Print(const wchar_t* text) const
     }
 }
 
+void HostState::SetMainFrame(CMDIFrameWnd* frame)
+{
+    m_mainFrame = frame;
+    m_mainWindow = frame == nullptr ? nullptr : frame->GetSafeHwnd();
+}
+
 void HostState::TellCreated(AcApDocument* document) const
 {
     observers.Tell([&](arxhost::IDocumentObserver& observer) { observer.DocumentCreated(document); });
@@ -84,7 +90,7 @@ void HostState::Reset()
 {
     SetUi(nullptr);
     m_printSink = nullptr;
-    m_mainFrame = nullptr;
+    SetMainFrame(nullptr);
     observers.Clear();
     editorReactors.Clear();
 }

@@ -4,6 +4,10 @@
 #include "HostServices.h"
 #include "arx/rx/ReactorList.h"
 
+#include <atomic>
+
+#include <windows.h>
+
 namespace arxed
 {
 
@@ -18,8 +22,10 @@ public:
     void SetPrintSink(arxhost::IPrintSink* sink) { m_printSink = sink; }
     // Without a sink the text goes to the debugger.
     void Print(const wchar_t* text) const;
-    void SetMainFrame(CMDIFrameWnd* frame) { m_mainFrame = frame; }
+    void SetMainFrame(CMDIFrameWnd* frame);
     CMDIFrameWnd* MainFrame() const { return m_mainFrame; }
+    // Any thread may ask.
+    HWND MainWindow() const { return m_mainWindow.load(); }
 
     void TellCreated(AcApDocument* document) const;
     void TellToBeDestroyed(AcApDocument* document) const;
@@ -41,6 +47,7 @@ private:
     arxhost::IHostUi* m_ui;
     arxhost::IPrintSink* m_printSink = nullptr;
     CMDIFrameWnd* m_mainFrame = nullptr;
+    std::atomic<HWND> m_mainWindow{nullptr};
 };
 
 } // namespace arxed

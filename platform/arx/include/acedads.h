@@ -31,7 +31,7 @@ ARX_API int acedSSMemb(const ads_name ename, const ads_name sname);
 // set itself stays the caller's.
 ARX_API int acedSSSetFirst(const ads_name pickfirst, const ads_name unused);
 // A new set of the pickfirst selection in `*pickfirst` (type RTPICKS), null when there is none; the caller frees the
-// list and the set. `*grips` is always null.
+// list and the set. `*grips` is always null. RTERROR when nothing is selected or no set is free.
 ARX_API int acedSSGetFirst(resbuf** grips, resbuf** pickfirst);
 
 // The next answer on the command line. `cronly` 0: it ends at a space; else it is the rest of the line. RTCAN when the
@@ -41,7 +41,7 @@ ARX_API int acedGetString(int cronly, const ACHAR* prompt, ACHAR* result);
 ARX_API int acedGetInt(const ACHAR* prompt, int* result);
 ARX_API int acedGetReal(const ACHAR* prompt, ads_real* result);
 
-// Runs commands with their answers, given in pairs of type and value as in acutBuildList() and closed by RTNONE or 0.
+// Runs one command with its answers, given in pairs of type and value as in acutBuildList() and closed by RTNONE or 0.
 // RTERROR for an unknown command.
 ARX_API int acedCommand(int type, ...);
 ARX_API int acedCmd(const resbuf* list);

@@ -1,5 +1,5 @@
-// The host's framework objects. All null (and acedGetAcadResourceInstance() the host library's own handle) when the
-// program runs without a frame.
+// The host's framework objects. The frame is null when the program runs without one. Document, view and command lines
+// are always null: the host keeps no framework documents, and its command line is its own.
 #pragma once
 
 #include "arx/Api.h"
@@ -18,7 +18,8 @@ ARX_API CView* acedGetAcadDwgView();
 ARX_API CMDIFrameWnd* acedGetAcadFrame();
 ARX_API CWnd* acedGetAcadDockCmdLine();
 ARX_API CWnd* acedGetAcadTextCmdLine();
+// The host library.
 ARX_API HINSTANCE acedGetAcadResourceInstance();
 
-// The frame's window, which is all that other threads may use of it.
+// The frame's window, which is all that other threads may use of it; null without a frame.
 extern "C" ARX_API HWND adsw_acadMainWnd();
