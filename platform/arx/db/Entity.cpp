@@ -3,6 +3,7 @@
 #include "HighlightSink.h"
 #include "ObjectStore.h"
 #include "acutads.h"
+#include "arx/gi/EntityExtents.h"
 #include "dbapserv.h"
 #include "dbobjptr.h"
 
@@ -138,9 +139,16 @@ void AcDbEntity::setDatabaseDefaults(AcDbDatabase* database)
     m_layerId = database == nullptr ? AcDbObjectId() : database->clayer();
 }
 
-Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& /*extents*/) const
+Acad::ErrorStatus AcDbEntity::getGeomExtents(AcDbExtents& extents) const
 {
-    return Acad::eNullExtents;
+    assertReadEnabled();
+    AcDbExtents box;
+    if (!arxgi::AddEntityExtents(*this, box))
+    {
+        return Acad::eNullExtents;
+    }
+    extents = box;
+    return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDbEntity::transformBy(const AcGeMatrix3d& /*matrix*/)
