@@ -77,6 +77,20 @@ MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return made;
 }
 
+// The entry of a registered message holds the address of its number where others hold their signature.
+bool FindWindowMessage(const AFX_MSGMAP* map, UINT message, AFX_MSGMAP_ENTRY& found)
+{
+    const bool registered = message >= AFX_REGISTERED_MESSAGE;
+    const AFX_MSGMAP_ENTRY* const entry =
+        registered ? AfxFindRegisteredEntry(map, message) : AfxFindMessageEntry(map, message, 0, 0);
+    if (entry == nullptr)
+        return false;
+    found = *entry;
+    if (registered)
+        found.nSig = AfxSig_l_wl;
+    return true;
+}
+
 AFX_CTLCOLOR MakeColour(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const AFX_CTLCOLOR colour = {reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam),
@@ -193,11 +207,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
     }
 
     const AFX_MSGMAP* const map = GetMessageMap();
-    const AFX_MSGMAP_ENTRY* const entry = message >= AFX_REGISTERED_MESSAGE
-                                              ? AfxFindRegisteredEntry(map, message)
-                                              : AfxFindMessageEntry(map, message, 0, 0);
-    if (entry != nullptr)
-        return AfxCallMessageHandler(this, *entry, MakeMessage(m_hWnd, message, wParam, lParam), result);
+    AFX_MSGMAP_ENTRY entry = {};
+    if (FindWindowMessage(map, message, entry))
+        return AfxCallMessageHandler(this, entry, MakeMessage(m_hWnd, message, wParam, lParam), result);
     if (!IsColourMessage(message))
         return FALSE;
 
