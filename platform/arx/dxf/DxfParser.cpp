@@ -49,7 +49,8 @@ void DxfParser::Parse()
     {
         if (!At("SECTION"))
         {
-            throw DxfError{m_group.line, L"此处应为 SECTION 或 EOF，却是" + Quoted(m_group.Trimmed())};
+            SkipBetweenSections();
+            continue;
         }
         ParseSection();
     }
@@ -77,6 +78,20 @@ void DxfParser::CheckStart()
     if (!At("SECTION") && !At("EOF"))
     {
         throw notDxf;
+    }
+}
+
+void DxfParser::SkipBetweenSections()
+{
+    // Old versions of one library end the header too early and go on with its variables.
+    m_context.Warn(m_group.line, L"节之外的内容已忽略");
+    while (!At("SECTION") && !At("EOF"))
+    {
+        if (m_group.code == 0 && !At("ENDSEC"))
+        {
+            throw DxfError{m_group.line, L"此处应为 SECTION 或 EOF，却是" + Quoted(m_group.Trimmed())};
+        }
+        Advance();
     }
 }
 

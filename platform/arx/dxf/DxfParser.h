@@ -16,6 +16,8 @@ public:
 
 private:
     void CheckStart();
+    // Passes over what is no record; records outside of sections are an error.
+    void SkipBetweenSections();
     void ParseSection();
     void ParseHeader();
     void ParseHeaderVariable(std::string_view name);
