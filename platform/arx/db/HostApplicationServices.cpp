@@ -5,7 +5,7 @@
 #include <cwchar>
 #include <string>
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 namespace
 {

@@ -6,7 +6,7 @@
 
 #include <atomic>
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 namespace arxed
 {

@@ -6,6 +6,7 @@
 #include "acedads.h"
 #include "arx/db/AdsNames.h"
 #include "dbobjptr.h"
+#include "dbsymtb.h"
 
 #include <algorithm>
 #include <iterator>

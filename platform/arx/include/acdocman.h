@@ -6,7 +6,7 @@
 
 #include "dbmain.h"
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 class CDocument;
 

@@ -20,7 +20,7 @@
 #include "rxdlinkr.h"
 #include "rxregsvc.h"
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 #define _RXST(text) ACRX_T(text)
 

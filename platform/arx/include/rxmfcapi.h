@@ -4,7 +4,7 @@
 
 #include "arx/Api.h"
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 class CDocument;
 class CMDIFrameWnd;

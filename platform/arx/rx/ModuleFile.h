@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 namespace arxrx
 {

@@ -1,6 +1,6 @@
 #include "Names.h"
 
-#include <windows.h>
+#include "arx/WindowsTypes.h"
 
 namespace arxrx
 {
