@@ -69,18 +69,6 @@ CRect TakeEdge(AFX_SIZEPARENTPARAMS& layout, DWORD barStyle, CSize size)
 }
 } // namespace
 
-void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND window, LPCRECT rect)
-{
-    const HWND parent = ::GetParent(window);
-    CRect current;
-    ::GetWindowRect(window, &current);
-    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&current), 2);
-    if (layout->hDWP == nullptr || ::EqualRect(&current, rect))
-        return;
-    layout->hDWP = ::DeferWindowPos(layout->hDWP, window, nullptr, rect->left, rect->top, rect->right - rect->left,
-                                    rect->bottom - rect->top, SWP_NOACTIVATE | SWP_NOZORDER);
-}
-
 CControlBar::CControlBar() = default;
 
 CControlBar::~CControlBar()
