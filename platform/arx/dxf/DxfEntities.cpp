@@ -18,7 +18,8 @@ constexpr int kClosedFlag = 1;
 
 void MakeLine(const DxfRecord& record, DxfContext&, DxfEntity& entity)
 {
-    entity.entity = std::make_unique<AcDbLine>(record.RequiredPoint(10), record.RequiredPoint(11));
+    const AcGePoint3d start = record.RequiredPoint(10);
+    entity.entity = std::make_unique<AcDbLine>(start, record.RequiredPoint(11));
 }
 
 double RadiusOf(const DxfRecord& record)
@@ -33,13 +34,16 @@ double RadiusOf(const DxfRecord& record)
 
 void MakeCircle(const DxfRecord& record, DxfContext&, DxfEntity& entity)
 {
-    entity.entity = std::make_unique<AcDbCircle>(record.ObjectPoint(10), record.Normal(), RadiusOf(record));
+    const AcGePoint3d center = record.ObjectPoint(10);
+    entity.entity = std::make_unique<AcDbCircle>(center, record.Normal(), RadiusOf(record));
 }
 
 void MakeArc(const DxfRecord& record, DxfContext&, DxfEntity& entity)
 {
-    entity.entity = std::make_unique<AcDbArc>(record.ObjectPoint(10), record.Normal(), RadiusOf(record),
-                                              record.Angle(50, 0), record.Angle(51, arxents::kTwoPi));
+    const AcGePoint3d center = record.ObjectPoint(10);
+    const double radius = RadiusOf(record);
+    entity.entity = std::make_unique<AcDbArc>(center, record.Normal(), radius, record.Angle(50, 0),
+                                              record.Angle(51, arxents::kTwoPi));
 }
 
 void MakePoint(const DxfRecord& record, DxfContext&, DxfEntity& entity)
@@ -49,9 +53,10 @@ void MakePoint(const DxfRecord& record, DxfContext&, DxfEntity& entity)
 
 void MakeSolid(const DxfRecord& record, DxfContext&, DxfEntity& entity)
 {
+    const AcGePoint3d first = record.ObjectPoint(10);
+    const AcGePoint3d second = record.ObjectPoint(11);
     const AcGePoint3d third = record.ObjectPoint(12);
-    entity.entity = std::make_unique<AcDbSolid>(record.ObjectPoint(10), record.ObjectPoint(11), third,
-                                                record.Has(13) ? record.ObjectPoint(13) : third);
+    entity.entity = std::make_unique<AcDbSolid>(first, second, third, record.Has(13) ? record.ObjectPoint(13) : third);
 }
 
 void MakeEllipse(const DxfRecord& record, DxfContext&, DxfEntity& entity)

@@ -128,7 +128,10 @@ AcGePoint3d DxfRecord::Point(int code) const
 
 AcGePoint3d DxfRecord::RequiredPoint(int code) const
 {
-    return AcGePoint3d(RequiredDouble(code), RequiredDouble(code + kNextAxis), Double(code + 2 * kNextAxis, 0));
+    // One after another, so that the first missing group is the one that is named.
+    const double x = RequiredDouble(code);
+    const double y = RequiredDouble(code + kNextAxis);
+    return AcGePoint3d(x, y, Double(code + 2 * kNextAxis, 0));
 }
 
 AcGeVector3d DxfRecord::Normal() const

@@ -84,10 +84,6 @@ TEST(DxfFaults, CutOffAtEveryLineIsAnErrorNeverHalfADrawing)
     for (size_t end = whole.find('\n'); end + 1 < whole.size(); end = whole.find('\n', end + 1))
     {
         const std::string part = whole.substr(0, end + 1);
-        if (part == whole)
-        {
-            break;
-        }
         ReadDrawing drawing(part);
         EXPECT_FALSE(drawing.succeeded) << part;
         EXPECT_NE(drawing.result.error, L"") << part;
@@ -144,7 +140,6 @@ TEST(DxfFaults, GroupCodeThatIsNoNumber)
 
 TEST(DxfFaults, ValuesThatAreNoNumbers)
 {
-    DxfSource text;
     ExpectError(Entities().Entity("LINE").Group(10, "abc").Group(20, "0").Point(11, 1, 1).End().Whole(), 10,
                 L"第 10 行：组码 10 的值“abc”不是数字");
     ExpectError(Entities().Entity("LINE").Group(10, "").Group(20, "0").Point(11, 1, 1).End().Whole(), 10,
@@ -243,7 +238,7 @@ TEST(DxfFaults, BlocksThatContainEachOther)
     DxfSource source;
     source.Section("BLOCKS").BeginBlock("A").Insert("B").EndBlock().BeginBlock("B").Insert("C").EndBlock();
     source.BeginBlock("C").Insert("a").EndBlock().End();
-    ExpectError(source.Whole(), 57, L"第 57 行：图块循环引用：A → B → C → A");
+    ExpectError(source.Whole(), 53, L"第 53 行：图块循环引用：A → B → C → A");
 }
 
 TEST(DxfFaults, BlocksNestedTooDeep)

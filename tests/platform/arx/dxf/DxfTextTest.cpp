@@ -136,7 +136,7 @@ TEST(DxfText, WrongUtf8IsOneWarningHoweverOftenItComes)
     }
     ReadDrawing drawing(source.End().Whole());
     ASSERT_EQ(drawing.result.warnings.size(), 1u);
-    EXPECT_EQ(drawing.result.warnings[0], L"第 26 行：文字不是有效的 UTF-8，已按代码页读取");
+    EXPECT_EQ(drawing.result.warnings[0], L"第 30 行：文字不是有效的 UTF-8，已按代码页读取");
 }
 
 TEST(DxfText, UnknownCodePageIsAWarning)
@@ -145,5 +145,5 @@ TEST(DxfText, UnknownCodePageIsAWarning)
     ReadDrawing drawing(source.Header("AC1015", "KLINGON").Whole());
     EXPECT_TRUE(drawing.succeeded);
     ASSERT_EQ(drawing.result.warnings.size(), 1u);
-    EXPECT_EQ(drawing.result.warnings[0], L"第 10 行：未知的代码页“KLINGON”");
+    EXPECT_EQ(drawing.result.warnings[0], L"第 12 行：未知的代码页“KLINGON”");
 }
