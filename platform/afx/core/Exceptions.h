@@ -4,7 +4,7 @@
 //
 // or with the macros TRY, CATCH, AND_CATCH, END_CATCH, which delete by themselves. The AfxThrow functions of the common
 // classes throw shared objects that Delete() leaves alone, so that running out of memory can be reported without
-// memory.
+// memory. (Operator new itself throws std::bad_alloc.)
 #pragma once
 
 #include "afx/core/Object.h"

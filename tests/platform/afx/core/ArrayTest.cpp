@@ -110,7 +110,8 @@ TEST(Array, AddsItsOwnElementWhileGrowing)
     array.Add(L"first element");
     for (int i = 0; i < 100; ++i)
         array.Add(array[0]);
-    EXPECT_STREQ(L"first element", array[100]);
+    for (INT_PTR i = 0; i < array.GetSize(); ++i)
+        EXPECT_STREQ(L"first element", array[i]) << i;
     array.InsertAt(0, array[100]);
     EXPECT_STREQ(L"first element", array[0]);
 }

@@ -205,8 +205,9 @@ namespace
 {
 DWORD WINAPI CopyManyTimes(void* source)
 {
+    const int copies = 1000000;
     const CString& text = *static_cast<const CString*>(source);
-    for (int i = 0; i < 100000; ++i)
+    for (int i = 0; i < copies; ++i)
     {
         CString copy(text);
         if (copy.GetLength() != text.GetLength())
