@@ -77,7 +77,7 @@ TEST(HandleMap, AForeignWindowHasATemporaryObject)
 TEST(HandleMap, NullHasNoObject)
 {
     EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
-    CWnd* const none = nullptr;
+    CWnd* volatile none = nullptr; // volatile: the compiler would see through the null
     EXPECT_EQ(nullptr, none->GetSafeHwnd());
 }
 
