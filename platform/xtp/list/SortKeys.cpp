@@ -66,6 +66,14 @@ bool ReadYearFirst(const wchar_t* text, SYSTEMTIME& time)
     time.wDay = static_cast<WORD>(day);
     return text[used] == L'\0' || ReadTime(text + used, time);
 }
+
+// False for a day that its month lacks: the conversion would take it for one of the next month.
+bool ToCalendarDate(SYSTEMTIME time, double& date)
+{
+    SYSTEMTIME back = {};
+    return SystemTimeToVariantTime(&time, &date) && VariantTimeToSystemTime(date, &back) && back.wDay == time.wDay &&
+           back.wMonth == time.wMonth;
+}
 } // namespace
 
 namespace xtp
@@ -113,9 +121,9 @@ double ReadDate(const wchar_t* text, double fallback)
 {
     SYSTEMTIME time = {};
     double date = 0;
-    if (ReadYearFirst(text, time) && SystemTimeToVariantTime(&time, &date))
+    if (ReadYearFirst(text, time) && ToCalendarDate(time, date))
         return date;
-    // A day that the calendar lacks must not pass as another one by the locale's rules.
+    // What began as a date year first must not pass as another one by the locale's rules.
     if (time.wYear != 0)
         return fallback;
     if (ReadTime(text, time))
