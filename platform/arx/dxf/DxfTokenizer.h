@@ -13,7 +13,7 @@ const int kMinGroupCode = -5;
 const int kMaxGroupCode = 1071;
 const int kCommentCode = 999;
 
-struct DxfGroup
+struct ARX_API DxfGroup
 {
     int code = 0;
     // Into the tokenizer's data, without the line end; blanks are kept.
