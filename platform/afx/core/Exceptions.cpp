@@ -1,5 +1,7 @@
 ﻿#include "afx/core/Exceptions.h"
 
+#include "afx/app/WinApp.h"
+
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
 IMPLEMENT_DYNAMIC(CMemoryException, CSimpleException)
@@ -111,7 +113,7 @@ int CException::ReportError(UINT type, UINT errorId)
             resource = L"出现意外错误。";
         CopyMessage(resource, text, kReportMax);
     }
-    return ::MessageBoxW(::GetActiveWindow(), text, NULL, type);
+    return AfxMessageBox(text, type);
 }
 
 CSimpleException::CSimpleException() : m_nResourceID(0) {}
