@@ -25,11 +25,19 @@ _znkt_import(ZNKT::ZNKTPub ZNKTPub.arx)
 _znkt_import(ZNKT::ZnAcadUiBase ZnAcadUiBase.arx)
 _znkt_import(ZNKT::ControlsModule ZNKTControls.arx)
 
+# The interface version that every module exports; no source asks for it, so the linker is told to.
+if(NOT TARGET ZNKT::arxapi)
+  add_library(ZNKT::arxapi STATIC IMPORTED)
+  set_target_properties(ZNKT::arxapi PROPERTIES
+    IMPORTED_LOCATION "${_znkt_root}/lib/libarxapi.a"
+    INTERFACE_LINK_OPTIONS -Wl,--undefined=acrxGetApiVersion)
+endif()
+
 if(NOT TARGET ZNKT::Platform)
   add_library(ZNKT::Platform INTERFACE IMPORTED)
   set_target_properties(ZNKT::Platform PROPERTIES
     INTERFACE_LINK_LIBRARIES
-      "ZNKT::arx;ZNKT::xtp;ZNKT::ZNKTPub;ZNKT::ZnAcadUiBase;ZNKT::ZnQFCBaseU;ZNKT::afx;${_znkt_root}/lib/libarxapi.a;comctl32;gdi32;ole32;uuid"
+      "ZNKT::arx;ZNKT::xtp;ZNKT::ZNKTPub;ZNKT::ZnAcadUiBase;ZNKT::ZnQFCBaseU;ZNKT::afx;comctl32;gdi32;ole32;uuid"
     INTERFACE_COMPILE_DEFINITIONS
       "UNICODE;_UNICODE;WIN32;_WINDOWS;WINVER=0x0601;_WIN32_WINNT=0x0601;_WIN32_IE=0x0800;_AFXDLL;NOMINMAX"
     INTERFACE_COMPILE_FEATURES cxx_std_17)
@@ -51,6 +59,7 @@ endif()
 function(znkt_add_arx_module name)
   add_library(${name} SHARED ${ARGN})
   target_compile_definitions(${name} PRIVATE _AFXEXT)
-  target_link_libraries(${name} PRIVATE ZNKT::Controls)
+  # First: the sibling modules export the same name, and theirs must not stand in for the module's own.
+  target_link_libraries(${name} PRIVATE ZNKT::arxapi ZNKT::Controls)
   set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".arx")
 endfunction()
