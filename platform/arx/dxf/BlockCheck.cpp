@@ -88,8 +88,7 @@ private:
         }
         if (depth > kMaxBlockDepth)
         {
-            throw DxfError{m_drawing.blocks[block].line,
-                           L"图块嵌套超过 " + std::to_wstring(kMaxBlockDepth) + L" 层"};
+            throw DxfError{m_drawing.blocks[block].line, L"图块嵌套超过 " + std::to_wstring(kMaxBlockDepth) + L" 层"};
         }
         m_way.push_back(block);
         m_states[block].isOpen = true;

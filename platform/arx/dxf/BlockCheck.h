@@ -1,4 +1,5 @@
-// Checks that the references between the blocks of a drawing end somewhere, and that what they show stays within bounds.
+// Checks that the references between the blocks of a drawing end somewhere, and that what they show stays within
+// bounds.
 #pragma once
 
 #include "DxfDrawing.h"

@@ -4,8 +4,6 @@
 #include "arx/ents/Angles.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 
 namespace arxdxf
 {
@@ -14,7 +12,6 @@ namespace
 {
 
 constexpr int kByLayer = 256;
-constexpr int kClosedFlag = 1;
 
 void MakeLine(const DxfRecord& record, DxfContext&, DxfEntity& entity)
 {
@@ -81,80 +78,6 @@ void MakeEllipse(const DxfRecord& record, DxfContext&, DxfEntity& entity)
     entity.entity = std::move(ellipse);
 }
 
-void MakePolyline(const DxfRecord& record, DxfContext&, DxfEntity& entity)
-{
-    auto polyline = std::make_unique<AcDbPolyline>();
-    AcGePoint2d point;
-    unsigned int count = 0;
-    for (const DxfGroup& group : record.Groups())
-    {
-        switch (group.code)
-        {
-        case 10:
-            point = AcGePoint2d(ToDouble(group), 0);
-            polyline->addVertexAt(count++, point);
-            break;
-        case 20:
-            point.y = ToDouble(group);
-            polyline->setPointAt(count - 1, point);
-            break;
-        case 42:
-            polyline->setBulgeAt(count - 1, ToDouble(group));
-            break;
-        }
-    }
-    polyline->setClosed((record.Int(70, 0) & kClosedFlag) != 0);
-    polyline->setElevation(record.Double(38, 0));
-    polyline->setNormal(record.Normal());
-    entity.entity = std::move(polyline);
-}
-
-void MakeSpline(const DxfRecord& record, DxfContext&, DxfEntity& entity)
-{
-    arxents::Spline data;
-    AcGePoint3dArray fitPoints;
-    data.degree = record.Int(71, 3);
-    for (const DxfGroup& group : record.Groups())
-    {
-        switch (group.code)
-        {
-        case 40:
-            data.knots.push_back(ToDouble(group));
-            break;
-        case 41:
-            data.weights.push_back(ToDouble(group));
-            break;
-        case 10:
-            data.points.emplace_back(ToDouble(group), 0, 0);
-            break;
-        case 11:
-            fitPoints.append(AcGePoint3d(ToDouble(group), 0, 0));
-            break;
-        case 20:
-        case 30:
-            if (!data.points.empty())
-            {
-                data.points.back()[group.code / 10 - 1] = ToDouble(group);
-            }
-            break;
-        case 21:
-        case 31:
-            if (!fitPoints.isEmpty())
-            {
-                fitPoints.last()[group.code / 10 - 1] = ToDouble(group);
-            }
-            break;
-        }
-    }
-    auto spline = std::make_unique<AcDbSpline>();
-    const bool isFitOnly = data.points.empty() && !fitPoints.isEmpty();
-    if ((isFitOnly ? spline->setFitPoints(fitPoints) : spline->setNurbsData(data)) != Acad::eOk)
-    {
-        record.Fail(L"的控制点、节点和阶数不一致");
-    }
-    entity.entity = std::move(spline);
-}
-
 // Counts of a block array: drawings hold them as 16-bit numbers, and 0 stands for one.
 Adesk::UInt16 ArrayCount(const DxfRecord& record, int code)
 {
@@ -209,11 +132,11 @@ struct KnownType
     Maker make;
 };
 
-constexpr KnownType kKnownTypes[] = {
-    {"LINE", MakeLine},       {"CIRCLE", MakeCircle}, {"ARC", MakeArc},       {"LWPOLYLINE", MakePolyline},
-    {"INSERT", MakeInsert},   {"TEXT", MakeText},     {"MTEXT", MakeMText},   {"POINT", MakePoint},
-    {"SPLINE", MakeSpline},   {"HATCH", MakeHatch},   {"ELLIPSE", MakeEllipse}, {"SOLID", MakeSolid},
-    {"TRACE", MakeSolid}};
+constexpr KnownType kKnownTypes[] = {{"LINE", MakeLine},           {"CIRCLE", MakeCircle},   {"ARC", MakeArc},
+                                     {"LWPOLYLINE", MakePolyline}, {"INSERT", MakeInsert},   {"TEXT", MakeText},
+                                     {"MTEXT", MakeMText},         {"POINT", MakePoint},     {"SPLINE", MakeSpline},
+                                     {"HATCH", MakeHatch},         {"ELLIPSE", MakeEllipse}, {"SOLID", MakeSolid},
+                                     {"TRACE", MakeSolid}};
 
 AcCmColor ColorOf(const DxfRecord& record, DxfContext& context)
 {
@@ -249,53 +172,6 @@ bool MakeEntity(const DxfRecord& record, DxfContext& context, DxfEntity& entity)
         }
     }
     return false;
-}
-
-bool MakeOldPolyline(const DxfRecord& record, const std::vector<DxfRecord>& vertices, DxfEntity& entity)
-{
-    enum Flags
-    {
-        kFitted = 2,
-        kSplineFitted = 4,
-        kInSpace = 8,
-        kMesh = 16,
-        kFaces = 64
-    };
-    constexpr int kFrameVertex = 16;
-    const int flags = record.Int(70, 0);
-    if ((flags & (kMesh | kFaces)) != 0)
-    {
-        return false;
-    }
-    const bool isClosed = (flags & kClosedFlag) != 0;
-    AcGePoint3dArray points;
-    auto flat = std::make_unique<AcDb2dPolyline>();
-    for (const DxfRecord& vertex : vertices)
-    {
-        if ((vertex.Int(70, 0) & kFrameVertex) == 0)
-        {
-            const AcGePoint3d point = vertex.RequiredPoint(10);
-            points.append(point);
-            flat->appendVertex(AcGePoint2d(point.x, point.y), vertex.Double(42, 0));
-        }
-    }
-    if ((flags & kInSpace) != 0)
-    {
-        entity.entity = std::make_unique<AcDb3dPolyline>(
-            (flags & kSplineFitted) != 0 ? AcDb::k3dCubicSplinePoly : AcDb::k3dSimplePoly, points, isClosed);
-        return true;
-    }
-    flat->setPolyType((flags & kFitted) != 0         ? AcDb::k2dFitCurvePoly
-                      : (flags & kSplineFitted) != 0 ? AcDb::k2dCubicSplinePoly
-                                                     : AcDb::k2dSimplePoly);
-    flat->setElevation(record.Double(30, 0));
-    flat->setNormal(record.Normal());
-    if (isClosed)
-    {
-        flat->makeClosed();
-    }
-    entity.entity = std::move(flat);
-    return true;
 }
 
 void ReadCommon(const DxfRecord& record, DxfContext& context, DxfEntity& entity)

@@ -1,4 +1,5 @@
-// Makes entities from the records of a file.
+// Makes entities from the records of a file. Group codes stand as the numbers that the format's reference gives; the
+// meaning of most of them depends on the entity.
 #pragma once
 
 #include "DxfContext.h"
@@ -14,6 +15,8 @@ bool MakeEntity(const DxfRecord& record, DxfContext& context, DxfEntity& entity)
 bool MakeOldPolyline(const DxfRecord& polyline, const std::vector<DxfRecord>& vertices, DxfEntity& entity);
 
 // The kinds that take more than a few lines.
+void MakePolyline(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
+void MakeSpline(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
 void MakeHatch(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
 void MakeText(const DxfRecord& record, DxfContext& context, DxfEntity& entity);
 void MakeMText(const DxfRecord& record, DxfContext& context, DxfEntity& entity);

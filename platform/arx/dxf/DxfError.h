@@ -1,4 +1,4 @@
-// DxfError: why a file cannot be read. Thrown inside the reader only; ReadDxf() turns it into its result.
+﻿// DxfError: why a file cannot be read. Thrown inside the reader only; ReadDxf() turns it into its result.
 #pragma once
 
 #include <string>

@@ -151,10 +151,7 @@ private:
         return groups[m_at++];
     }
 
-    bool NextIs(int code) const
-    {
-        return m_at < m_record.Groups().size() && m_record.Groups()[m_at].code == code;
-    }
+    bool NextIs(int code) const { return m_at < m_record.Groups().size() && m_record.Groups()[m_at].code == code; }
 
     double Real(int code) { return ToDouble(Take(code)); }
     int Integer(int code) { return ToInt(Take(code)); }

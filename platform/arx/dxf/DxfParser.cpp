@@ -310,8 +310,8 @@ void DxfParser::ParseEntity(std::vector<DxfEntity>& list)
     ReadRecord(m_record);
     const std::wstring type = Wide(m_record.Type());
     DxfEntity entity;
-    const bool isMade = m_record.Type() == "POLYLINE" ? ParseOldPolyline(m_record, entity)
-                                                      : MakeEntity(m_record, m_context, entity);
+    const bool isMade =
+        m_record.Type() == "POLYLINE" ? ParseOldPolyline(m_record, entity) : MakeEntity(m_record, m_context, entity);
     if (!isMade)
     {
         // Ends of sequences draw nothing anyway.

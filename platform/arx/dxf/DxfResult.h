@@ -1,4 +1,4 @@
-// DxfResult: what came of reading a drawing file. All texts are Simplified Chinese, for the user.
+﻿// DxfResult: what came of reading a drawing file. All texts are Simplified Chinese, for the user.
 #pragma once
 
 #include "dbid.h"

@@ -24,19 +24,18 @@ struct NamedCodePage
 };
 
 // Names that do not tell their number.
-constexpr NamedCodePage kNamedCodePages[] = {
-    {"ASCII", kLatin},      {"GB2312", 936},  {"GBK", 936},       {"BIG5", 950},   {"KSC5601", 949},
-    {"JOHAB", 1361},        {"UTF-8", 65001}, {"UTF8", 65001},    {"8859_1", 28591}, {"ISO8859-1", 28591},
-    {"ISO8859-2", 28592},   {"ISO8859-5", 28595}};
+constexpr NamedCodePage kNamedCodePages[] = {{"ASCII", kLatin},    {"GB2312", 936},      {"GBK", 936},
+                                             {"BIG5", 950},        {"KSC5601", 949},     {"JOHAB", 1361},
+                                             {"UTF-8", 65001},     {"UTF8", 65001},      {"8859_1", 28591},
+                                             {"ISO8859-1", 28591}, {"ISO8859-2", 28592}, {"ISO8859-5", 28595}};
 
 // Code pages behind the digit of \M+nXXXX, from 1.
 constexpr unsigned int kMultiByteEscapePages[] = {932, 950, 949, 1361, 936};
 
 bool IsHexText(std::string_view text)
 {
-    return text.size() == kEscapeDigits && std::all_of(text.begin(), text.end(), [](unsigned char c) {
-               return std::isxdigit(c) != 0;
-           });
+    return text.size() == kEscapeDigits &&
+           std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
 }
 
 unsigned int HexValue(std::string_view digits)

@@ -54,10 +54,10 @@ void MakeText(const DxfRecord& record, DxfContext& context, DxfEntity& entity)
     text->setAlignmentPoint(record.Has(11) ? record.ObjectPoint(11) : text->position());
     text->setWidthFactor(record.Double(41, 1));
     text->setOblique(record.Angle(51, 0));
-    text->setHorizontalMode(static_cast<AcDb::TextHorzMode>(
-        InRange(record.Int(72, AcDb::kTextLeft), AcDb::kTextLeft, AcDb::kTextFit)));
-    text->setVerticalMode(static_cast<AcDb::TextVertMode>(
-        InRange(record.Int(73, AcDb::kTextBase), AcDb::kTextBase, AcDb::kTextTop)));
+    text->setHorizontalMode(
+        static_cast<AcDb::TextHorzMode>(InRange(record.Int(72, AcDb::kTextLeft), AcDb::kTextLeft, AcDb::kTextFit)));
+    text->setVerticalMode(
+        static_cast<AcDb::TextVertMode>(InRange(record.Int(73, AcDb::kTextBase), AcDb::kTextBase, AcDb::kTextTop)));
     text->setNormal(record.Normal());
     entity.entity = std::move(text);
 }

@@ -105,8 +105,8 @@ void AcDbBlockReference::emitPieces(arxgi::PieceSink& sink) const
 
 AcDbMInsertBlock::AcDbMInsertBlock(const AcGePoint3d& position, AcDbObjectId blockTableRecord, Adesk::UInt16 columns,
                                    Adesk::UInt16 rows, double columnSpacing, double rowSpacing)
-    : AcDbBlockReference(position, blockTableRecord), m_columns(columns == 0 ? 1 : columns), m_rows(rows == 0 ? 1 : rows),
-      m_columnSpacing(columnSpacing), m_rowSpacing(rowSpacing)
+    : AcDbBlockReference(position, blockTableRecord), m_columns(columns == 0 ? 1 : columns),
+      m_rows(rows == 0 ? 1 : rows), m_columnSpacing(columnSpacing), m_rowSpacing(rowSpacing)
 {
 }
 
@@ -149,8 +149,8 @@ Acad::ErrorStatus AcDbMInsertBlock::setRowSpacing(double spacing)
 void AcDbMInsertBlock::emitPieces(arxgi::PieceSink& sink) const
 {
     const AcGeMatrix3d first = blockTransform();
-    const AcGeMatrix3d axes = AcGeMatrix3d::planeToWorld(normal()) *
-                              AcGeMatrix3d::rotation(rotation(), AcGeVector3d::kZAxis);
+    const AcGeMatrix3d axes =
+        AcGeMatrix3d::planeToWorld(normal()) * AcGeMatrix3d::rotation(rotation(), AcGeVector3d::kZAxis);
     const bool onlyEnds = sink.WantsArrayCorners();
     for (int row : Places(m_rows, onlyEnds))
     {

@@ -26,7 +26,7 @@ struct HatchEdge
     Kind kind;
     AcGePoint2d start; // line
     AcGePoint2d end;
-    AcGePoint2d center; // arc and ellipse
+    AcGePoint2d center;     // arc and ellipse
     AcGeVector2d majorAxis; // its length is the radius of an arc
     double ratio;
     double startAngle;

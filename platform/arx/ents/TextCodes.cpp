@@ -21,9 +21,8 @@ struct CodeRange
 };
 
 // Ideographs, kana, Hangul and full-width forms. The two halves of a character beyond U+FFFF are half an ideograph.
-constexpr CodeRange kWideRanges[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3},
-                                     {0xF900, 0xFAFF}, {0xFE30, 0xFE6F}, {0xFF00, 0xFF60},
-                                     {0xFFE0, 0xFFE6}};
+constexpr CodeRange kWideRanges[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3}, {0xF900, 0xFAFF},
+                                     {0xFE30, 0xFE6F}, {0xFF00, 0xFF60}, {0xFFE0, 0xFFE6}};
 constexpr wchar_t kFirstSurrogate = 0xD800;
 constexpr wchar_t kLastSurrogate = 0xDFFF;
 

@@ -103,9 +103,8 @@ bool DisplayList::Touches(const DisplayItem& item, const Box2& window) const
     {
         const DisplayPrimitive& primitive = m_primitives[i];
         const Point2* points = m_points.data() + primitive.firstPoint;
-        bool touches = primitive.kind == DisplayPrimitive::kArea
-                           ? AreaTouches(m_points, primitive, m_loopEnds, window)
-                           : ChainTouches(points, primitive.pointCount, window);
+        bool touches = primitive.kind == DisplayPrimitive::kArea ? AreaTouches(m_points, primitive, m_loopEnds, window)
+                                                                 : ChainTouches(points, primitive.pointCount, window);
         if (primitive.kind == DisplayPrimitive::kText)
         {
             touches = touches || IsInsidePolygon(points, primitive.pointCount, corner);

@@ -1,8 +1,8 @@
 // DisplayList: a drawing's model space as plain primitives, ready to paint and to pick from.
 //
-// Blocks are expanded, curves cut into chords, colours and layers resolved ("by layer" and "by block" are gone, entities
-// on layers that are off or frozen and invisible ones are left out). Everything is seen from above: z is dropped.
-// Coordinates are drawing units, y upwards.
+// Blocks are expanded, curves cut into chords, colours and layers resolved ("by layer" and "by block" are gone,
+// entities on layers that are off or frozen and invisible ones are left out). Everything is seen from above: z is
+// dropped. Coordinates are drawing units, y upwards.
 //
 //     arxgi::DisplayList list;
 //     list.Build(*database, unitsPerPixel);

@@ -1,5 +1,5 @@
-// Path: a connected curve of straight segments and elliptical arcs in space. Every affine map of a path is a path again,
-// which keeps extents exact through any nesting of blocks.
+// Path: a connected curve of straight segments and elliptical arcs in space. Every affine map of a path is a path
+// again, which keeps extents exact through any nesting of blocks.
 #pragma once
 
 #include "gemat3d.h"

@@ -52,8 +52,7 @@ TEST(DxfFaults, MissingFileNamesThePath)
 
 TEST(DxfFaults, BinaryDxf)
 {
-    ExpectError(std::string("AutoCAD Binary DXF\r\n\x1A\0", 22), 0,
-                L"这是二进制 DXF 文件，请另存为文本（ASCII）DXF");
+    ExpectError(std::string("AutoCAD Binary DXF\r\n\x1A\0", 22), 0, L"这是二进制 DXF 文件，请另存为文本（ASCII）DXF");
 }
 
 TEST(DxfFaults, Dwg)
@@ -158,8 +157,14 @@ TEST(DxfFaults, ValuesThatAreNoNumbers)
 
 TEST(DxfFaults, NumbersMayHaveSignsExponentsAndTinyValues)
 {
-    ReadDrawing drawing(
-        Entities().Entity("LINE").Group(10, "+1.5E+1").Group(20, " -2e-1").Group(11, "1e-999").Group(21, ".5").End().Whole());
+    ReadDrawing drawing(Entities()
+                            .Entity("LINE")
+                            .Group(10, "+1.5E+1")
+                            .Group(20, " -2e-1")
+                            .Group(11, "1e-999")
+                            .Group(21, ".5")
+                            .End()
+                            .Whole());
     ASSERT_EQ(drawing.result.error, L"");
     WithEntity<AcDbLine>(drawing.database, 0, [](const AcDbLine& line) {
         EXPECT_EQ(line.startPoint(), AcGePoint3d(15, -0.2, 0));
@@ -209,8 +214,7 @@ TEST(DxfFaults, DoubledHandleIsMendedWithAWarning)
 TEST(DxfFaults, HandlesThatAreNone)
 {
     ExpectWarning(Entities().Line(0, 0, 1, 1).Group(5, "").End().Whole(), L"第 18 行：句柄为空，已分配新句柄");
-    ExpectWarning(Entities().Line(0, 0, 1, 1).Group(5, "XYZ").End().Whole(),
-                  L"第 18 行：句柄“XYZ”无效，已分配新句柄");
+    ExpectWarning(Entities().Line(0, 0, 1, 1).Group(5, "XYZ").End().Whole(), L"第 18 行：句柄“XYZ”无效，已分配新句柄");
     ExpectWarning(Entities().Line(0, 0, 1, 1).Group(5, "0").End().Whole(), L"第 18 行：句柄“0”无效，已分配新句柄");
 }
 

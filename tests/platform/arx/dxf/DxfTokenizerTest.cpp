@@ -61,7 +61,8 @@ TEST(DxfTokenizer, AllLineEndsAreKnown)
 
 TEST(DxfTokenizer, CommentsAndByteOrderMarkAreSkippedButCounted)
 {
-    const std::vector<DxfGroup> groups = GroupsOf("\xEF\xBB\xBF" "999\nhello\n0\nEOF\n");
+    const std::vector<DxfGroup> groups = GroupsOf("\xEF\xBB\xBF"
+                                                  "999\nhello\n0\nEOF\n");
     ASSERT_EQ(groups.size(), 1u);
     EXPECT_EQ(groups[0].value, "EOF");
     EXPECT_EQ(groups[0].line, 3);
