@@ -1,11 +1,12 @@
 ﻿// The message viewer beside a bare list view that does the same work: filling, sorting, deleting.
-#include "Bench.h"
-#include "BareMessageList.h"
-
-#include <KTMsgWnd.h>
+#include <afxwin.h>
 
 #include <afxcmn.h>
-#include <afxwin.h>
+
+#include "BareMessageList.h"
+#include "Bench.h"
+
+#include <KTMsgWnd.h>
 
 #include <stdexcept>
 #include <string>

@@ -9,7 +9,7 @@
 namespace arxui
 {
 
-struct PaletteLayout
+struct ARX_API PaletteLayout
 {
     DockSide side = DockSide::Floating;
     int width = 0;   // thickness at the left or right edge, pixels; 0 when it never docked there

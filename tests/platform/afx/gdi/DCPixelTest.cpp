@@ -1,5 +1,7 @@
 #include <afxwin.h>
 
+#include <afxcmn.h>
+
 #include "DibCanvas.h"
 
 #include <gtest/gtest.h>
