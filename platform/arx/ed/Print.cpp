@@ -14,12 +14,14 @@ const size_t kFirstSize = 512;
 // A text that does not fit here has an unusable format.
 const size_t kLargestSize = 1024 * 1024;
 
-// Formats into a buffer of this size; negative when it is too small or the format is unusable.
+// Formats into the buffer; negative when it is too small or the format is unusable. By the function of Microsoft's C
+// library, where %s is a wide string; the standard's vswprintf takes it for a narrow one. It leaves a full buffer
+// without an end mark, hence one character less.
 int FormatInto(std::vector<wchar_t>& buffer, const ACHAR* format, va_list arguments)
 {
     va_list copy;
     va_copy(copy, arguments);
-    const int length = vswprintf(buffer.data(), buffer.size(), format, copy);
+    const int length = _vsnwprintf(buffer.data(), buffer.size() - 1, format, copy);
     va_end(copy);
     return length;
 }
@@ -38,7 +40,7 @@ int acutPrintf(const ACHAR* format, ...)
     int length = -1;
     for (size_t size = kFirstSize; length < 0 && size <= kLargestSize; size *= 2)
     {
-        buffer.resize(size);
+        buffer.assign(size, L'\0');
         length = FormatInto(buffer, format, arguments);
     }
     va_end(arguments);

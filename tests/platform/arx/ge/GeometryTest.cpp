@@ -1,4 +1,5 @@
 #include "gemat3d.h"
+#include "gevec2d.h"
 
 #include <gtest/gtest.h>
 
