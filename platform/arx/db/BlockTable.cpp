@@ -6,13 +6,9 @@
 ACRX_DXF_DEFINE_MEMBERS(AcDbBlockTableRecord, AcDbSymbolTableRecord, 0, 0, 0, BLOCK_RECORD, host)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbBlockTable, AcDbSymbolTable)
 
-AcDbBlockTableRecord::AcDbBlockTableRecord()
-{
-}
+AcDbBlockTableRecord::AcDbBlockTableRecord() {}
 
-AcDbBlockTableRecord::~AcDbBlockTableRecord()
-{
-}
+AcDbBlockTableRecord::~AcDbBlockTableRecord() {}
 
 Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbEntity* entity)
 {
@@ -78,13 +74,9 @@ bool AcDbBlockTableRecord::isLayout() const
     return arxrx::SameName(name, ACDB_MODEL_SPACE) || arxrx::SameName(name, ACDB_PAPER_SPACE);
 }
 
-AcDbBlockTableRecordIterator::AcDbBlockTableRecordIterator(const AcDbObjectIdArray& ids) : m_ids(ids), m_position(0)
-{
-}
+AcDbBlockTableRecordIterator::AcDbBlockTableRecordIterator(const AcDbObjectIdArray& ids) : m_ids(ids), m_position(0) {}
 
-AcDbBlockTableRecordIterator::~AcDbBlockTableRecordIterator()
-{
-}
+AcDbBlockTableRecordIterator::~AcDbBlockTableRecordIterator() {}
 
 void AcDbBlockTableRecordIterator::start(bool atBeginning, bool skipDeleted)
 {
@@ -131,13 +123,9 @@ Acad::ErrorStatus AcDbBlockTableRecordIterator::getEntity(AcDbEntity*& entity, A
     return done() ? Acad::eInvalidInput : acdbOpenAcDbEntity(entity, m_ids[m_position], mode, openErased);
 }
 
-AcDbBlockTable::AcDbBlockTable()
-{
-}
+AcDbBlockTable::AcDbBlockTable() {}
 
-AcDbBlockTable::~AcDbBlockTable()
-{
-}
+AcDbBlockTable::~AcDbBlockTable() {}
 
 Acad::ErrorStatus AcDbBlockTable::getAt(const ACHAR* name, AcDbBlockTableRecord*& record, AcDb::OpenMode mode,
                                         bool openErasedRecord) const

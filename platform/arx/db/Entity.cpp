@@ -35,9 +35,7 @@ AcDbEntity::AcDbEntity() : m_visibility(AcDb::kVisible)
     m_color.setColorMethod(AcCmEntityColor::kByLayer);
 }
 
-AcDbEntity::~AcDbEntity()
-{
-}
+AcDbEntity::~AcDbEntity() {}
 
 AcCmColor AcDbEntity::color() const
 {
@@ -166,6 +164,4 @@ Acad::ErrorStatus AcDbEntity::unhighlight() const
     return ChangeHighlight(*this, false);
 }
 
-void AcDbEntity::emitPieces(arxgi::PieceSink& /*sink*/) const
-{
-}
+void AcDbEntity::emitPieces(arxgi::PieceSink& /*sink*/) const {}

@@ -49,8 +49,8 @@ public:
     virtual Acad::ErrorStatus highlight() const;
     virtual Acad::ErrorStatus unhighlight() const;
 
-    // Gives the pieces of the entity's picture to the sink, in the coordinates of its block; nothing for entities without
-    // a picture. This is how the bundled host draws and how extents are found; modules never call it.
+    // Gives the pieces of the entity's picture to the sink, in the coordinates of its block; nothing for entities
+    // without a picture. This is how the bundled host draws and how extents are found; modules never call it.
     virtual void emitPieces(arxgi::PieceSink& sink) const;
 
 protected:

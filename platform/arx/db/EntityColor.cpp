@@ -65,13 +65,9 @@ Adesk::UInt32 HueColor(int index)
 
 } // namespace
 
-AcCmEntityColor::AcCmEntityColor() : m_packed(Packed(kByLayer, 0))
-{
-}
+AcCmEntityColor::AcCmEntityColor() : m_packed(Packed(kByLayer, 0)) {}
 
-AcCmEntityColor::AcCmEntityColor(ColorMethod method) : m_packed(Packed(method, 0))
-{
-}
+AcCmEntityColor::AcCmEntityColor(ColorMethod method) : m_packed(Packed(method, 0)) {}
 
 AcCmEntityColor::AcCmEntityColor(Adesk::UInt8 red, Adesk::UInt8 green, Adesk::UInt8 blue)
     : m_packed(Packed(kByColor, Rgb(red, green, blue)))

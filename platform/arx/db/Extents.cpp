@@ -14,9 +14,7 @@ bool IsCrossed(const AcGePoint3d& min, const AcGePoint3d& max)
 
 } // namespace
 
-AcDbExtents::AcDbExtents() : m_min(kFar, kFar, kFar), m_max(-kFar, -kFar, -kFar)
-{
-}
+AcDbExtents::AcDbExtents() : m_min(kFar, kFar, kFar), m_max(-kFar, -kFar, -kFar) {}
 
 AcDbExtents::AcDbExtents(const AcGePoint3d& min, const AcGePoint3d& max)
     : m_min(kFar, kFar, kFar), m_max(-kFar, -kFar, -kFar)

@@ -26,13 +26,9 @@ std::wstring BesideProgram(const ACHAR* fileName)
 
 } // namespace
 
-AcDbHostApplicationServices::AcDbHostApplicationServices() : m_workingDatabase(nullptr)
-{
-}
+AcDbHostApplicationServices::AcDbHostApplicationServices() : m_workingDatabase(nullptr) {}
 
-AcDbHostApplicationServices::~AcDbHostApplicationServices()
-{
-}
+AcDbHostApplicationServices::~AcDbHostApplicationServices() {}
 
 const ACHAR* AcDbHostApplicationServices::program()
 {

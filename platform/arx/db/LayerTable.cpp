@@ -8,9 +8,7 @@ AcDbLayerTableRecord::AcDbLayerTableRecord() : m_off(false), m_frozen(false), m_
     m_color.setColorIndex(AcCmEntityColor::kACIforeground);
 }
 
-AcDbLayerTableRecord::~AcDbLayerTableRecord()
-{
-}
+AcDbLayerTableRecord::~AcDbLayerTableRecord() {}
 
 Acad::ErrorStatus AcDbLayerTableRecord::setColor(const AcCmColor& color)
 {
@@ -42,13 +40,9 @@ void AcDbLayerTableRecord::setIsLocked(bool locked)
     m_locked = locked;
 }
 
-AcDbLayerTable::AcDbLayerTable()
-{
-}
+AcDbLayerTable::AcDbLayerTable() {}
 
-AcDbLayerTable::~AcDbLayerTable()
-{
-}
+AcDbLayerTable::~AcDbLayerTable() {}
 
 Acad::ErrorStatus AcDbLayerTable::getAt(const ACHAR* name, AcDbLayerTableRecord*& record, AcDb::OpenMode mode,
                                         bool openErasedRecord) const

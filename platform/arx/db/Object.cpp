@@ -9,9 +9,7 @@ using arxdb::ObjectStore;
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbObject, AcRxObject)
 
-AcDbObject::AcDbObject() : m_record(nullptr)
-{
-}
+AcDbObject::AcDbObject() : m_record(nullptr) {}
 
 AcDbObject::~AcDbObject()
 {

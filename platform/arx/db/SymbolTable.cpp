@@ -115,9 +115,7 @@ Acad::ErrorStatus AcDbSymbolTableIterator::getRecord(AcDbSymbolTableRecord*& rec
     return done() ? Acad::eInvalidInput : acdbOpenObject(record, m_ids[m_position], mode, openErased);
 }
 
-AcDbSymbolTable::AcDbSymbolTable() : m_records(new arxdb::NameTable)
-{
-}
+AcDbSymbolTable::AcDbSymbolTable() : m_records(new arxdb::NameTable) {}
 
 AcDbSymbolTable::~AcDbSymbolTable()
 {

@@ -22,7 +22,8 @@ public:
     // eInvalidInput for an empty name, eDuplicateKey when the table has another record of that name.
     virtual Acad::ErrorStatus setName(const ACHAR* name);
 
-    // A record that is not resolved is a placeholder: entities refer to it, the file has no definition of it. Such a record is dependent as well.
+    // A record that is not resolved is a placeholder: entities refer to it, the file has no definition of it. Such a
+    // record is dependent as well.
     bool isDependent() const { return !m_resolved; }
     bool isResolved() const { return m_resolved; }
     // How the bundled drawing reader keeps the name of a missing block or layer; modules never call it.

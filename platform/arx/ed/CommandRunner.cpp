@@ -11,8 +11,7 @@ namespace
 {
 
 // The pickfirst selection survives commands that ask for it, and those that run beside the drawing.
-const Adesk::Int32 kKeepsPickfirst =
-    ACRX_CMD_USEPICKSET | ACRX_CMD_REDRAW | ACRX_CMD_TRANSPARENT | ACRX_CMD_SESSION;
+const Adesk::Int32 kKeepsPickfirst = ACRX_CMD_USEPICKSET | ACRX_CMD_REDRAW | ACRX_CMD_TRANSPARENT | ACRX_CMD_SESSION;
 
 void ClearPickfirst(Document& document)
 {

@@ -9,13 +9,9 @@ using arxrx::SameName;
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcEdCommandStack, AcRxObject)
 
-AcEdCommandStack::AcEdCommandStack()
-{
-}
+AcEdCommandStack::AcEdCommandStack() {}
 
-AcEdCommandStack::~AcEdCommandStack()
-{
-}
+AcEdCommandStack::~AcEdCommandStack() {}
 
 AcEdCommandStack* acedRegCmdsPtr()
 {

@@ -23,7 +23,7 @@ public:
     const ACHAR* fileName() const override { return m_path.empty() ? m_title.c_str() : m_path.c_str(); }
     const ACHAR* docTitle() const override { return m_title.c_str(); }
     bool isNamedDrawing() const override { return !m_path.empty(); }
-    bool isReadOnly() const override { return true; }
+    bool isReadOnly() const override { return false; }
     AcDbDatabase* database() const override { return m_database.get(); }
     CDocument* cDoc() const override { return nullptr; }
     AcAp::DocLockMode lockMode(bool includeMyLocks) const override;

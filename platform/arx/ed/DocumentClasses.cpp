@@ -10,33 +10,19 @@ ACRX_NO_CONS_DEFINE_MEMBERS(AcApDocManagerReactor, AcRxObject)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcEditor, AcRxObject)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcEditorReactor, AcRxObject)
 
-AcApDocument::AcApDocument()
-{
-}
+AcApDocument::AcApDocument() {}
 
-AcApDocument::~AcApDocument()
-{
-}
+AcApDocument::~AcApDocument() {}
 
-AcApDocumentIterator::~AcApDocumentIterator()
-{
-}
+AcApDocumentIterator::~AcApDocumentIterator() {}
 
-AcApDocManager::AcApDocManager()
-{
-}
+AcApDocManager::AcApDocManager() {}
 
-AcApDocManager::~AcApDocManager()
-{
-}
+AcApDocManager::~AcApDocManager() {}
 
-AcApDocManagerReactor::AcApDocManagerReactor() : m_vetoed(false)
-{
-}
+AcApDocManagerReactor::AcApDocManagerReactor() : m_vetoed(false) {}
 
-AcApDocManagerReactor::~AcApDocManagerReactor()
-{
-}
+AcApDocManagerReactor::~AcApDocManagerReactor() {}
 
 Acad::ErrorStatus AcApDocManagerReactor::veto()
 {
@@ -44,25 +30,15 @@ Acad::ErrorStatus AcApDocManagerReactor::veto()
     return Acad::eOk;
 }
 
-void AcApDocManagerReactor::documentCreateStarted(AcApDocument* /*document*/)
-{
-}
+void AcApDocManagerReactor::documentCreateStarted(AcApDocument* /*document*/) {}
 
-void AcApDocManagerReactor::documentCreated(AcApDocument* /*document*/)
-{
-}
+void AcApDocManagerReactor::documentCreated(AcApDocument* /*document*/) {}
 
-void AcApDocManagerReactor::documentToBeDestroyed(AcApDocument* /*document*/)
-{
-}
+void AcApDocManagerReactor::documentToBeDestroyed(AcApDocument* /*document*/) {}
 
-void AcApDocManagerReactor::documentDestroyed(const ACHAR* /*fileName*/)
-{
-}
+void AcApDocManagerReactor::documentDestroyed(const ACHAR* /*fileName*/) {}
 
-void AcApDocManagerReactor::documentCreateCanceled(AcApDocument* /*document*/)
-{
-}
+void AcApDocManagerReactor::documentCreateCanceled(AcApDocument* /*document*/) {}
 
 void AcApDocManagerReactor::documentLockModeWillChange(AcApDocument* /*document*/, AcAp::DocLockMode /*myCurrentMode*/,
                                                        AcAp::DocLockMode /*myNewMode*/,
@@ -71,8 +47,7 @@ void AcApDocManagerReactor::documentLockModeWillChange(AcApDocument* /*document*
 {
 }
 
-void AcApDocManagerReactor::documentLockModeChangeVetoed(AcApDocument* /*document*/,
-                                                         const ACHAR* /*globalCommandName*/)
+void AcApDocManagerReactor::documentLockModeChangeVetoed(AcApDocument* /*document*/, const ACHAR* /*globalCommandName*/)
 {
 }
 
@@ -83,65 +58,35 @@ void AcApDocManagerReactor::documentLockModeChanged(AcApDocument* /*document*/, 
 {
 }
 
-void AcApDocManagerReactor::documentBecameCurrent(AcApDocument* /*document*/)
-{
-}
+void AcApDocManagerReactor::documentBecameCurrent(AcApDocument* /*document*/) {}
 
-void AcApDocManagerReactor::documentToBeActivated(AcApDocument* /*activatingDocument*/)
-{
-}
+void AcApDocManagerReactor::documentToBeActivated(AcApDocument* /*activatingDocument*/) {}
 
-void AcApDocManagerReactor::documentToBeDeactivated(AcApDocument* /*deactivatedDocument*/)
-{
-}
+void AcApDocManagerReactor::documentToBeDeactivated(AcApDocument* /*deactivatedDocument*/) {}
 
-void AcApDocManagerReactor::documentActivationModified(bool /*activation*/)
-{
-}
+void AcApDocManagerReactor::documentActivationModified(bool /*activation*/) {}
 
-void AcApDocManagerReactor::documentActivated(AcApDocument* /*activatedDocument*/)
-{
-}
+void AcApDocManagerReactor::documentActivated(AcApDocument* /*activatedDocument*/) {}
 
-AcEditor::AcEditor()
-{
-}
+AcEditor::AcEditor() {}
 
-AcEditor::~AcEditor()
-{
-}
+AcEditor::~AcEditor() {}
 
-AcEditorReactor::AcEditorReactor()
-{
-}
+AcEditorReactor::AcEditorReactor() {}
 
-AcEditorReactor::~AcEditorReactor()
-{
-}
+AcEditorReactor::~AcEditorReactor() {}
 
-void AcEditorReactor::commandWillStart(const ACHAR* /*commandName*/)
-{
-}
+void AcEditorReactor::commandWillStart(const ACHAR* /*commandName*/) {}
 
-void AcEditorReactor::commandEnded(const ACHAR* /*commandName*/)
-{
-}
+void AcEditorReactor::commandEnded(const ACHAR* /*commandName*/) {}
 
-void AcEditorReactor::commandCancelled(const ACHAR* /*commandName*/)
-{
-}
+void AcEditorReactor::commandCancelled(const ACHAR* /*commandName*/) {}
 
-void AcEditorReactor::commandFailed(const ACHAR* /*commandName*/)
-{
-}
+void AcEditorReactor::commandFailed(const ACHAR* /*commandName*/) {}
 
-void AcEditorReactor::unknownCommand(const ACHAR* /*commandName*/)
-{
-}
+void AcEditorReactor::unknownCommand(const ACHAR* /*commandName*/) {}
 
-void AcEditorReactor::pickfirstModified()
-{
-}
+void AcEditorReactor::pickfirstModified() {}
 
 namespace
 {
@@ -149,10 +94,7 @@ namespace
 class Editor : public AcEditor
 {
 public:
-    void addReactor(AcEditorReactor* reactor) override
-    {
-        arxed::HostState::Instance().editorReactors.Add(reactor);
-    }
+    void addReactor(AcEditorReactor* reactor) override { arxed::HostState::Instance().editorReactors.Add(reactor); }
     void removeReactor(AcEditorReactor* reactor) override
     {
         arxed::HostState::Instance().editorReactors.Remove(reactor);

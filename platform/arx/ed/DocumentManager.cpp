@@ -116,9 +116,8 @@ bool DocumentManager::AnnounceLock(Document& document, AcAp::DocLockMode mode, c
     });
     if (vetoed)
     {
-        m_reactors.Tell([&](AcApDocManagerReactor& reactor) {
-            reactor.documentLockModeChangeVetoed(&document, commandName);
-        });
+        m_reactors.Tell(
+            [&](AcApDocManagerReactor& reactor) { reactor.documentLockModeChangeVetoed(&document, commandName); });
     }
     return !vetoed;
 }

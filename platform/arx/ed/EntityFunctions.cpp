@@ -100,7 +100,7 @@ int acdbHandEnt(const ACHAR* handle, ads_name result)
 {
     const arxed::Document* document = arxed::DocumentManager::Instance().Current();
     AcDbObjectId id;
-    const bool found = document != nullptr &&
-                       document->database()->getAcDbObjectId(id, false, AcDbHandle(handle)) == Acad::eOk;
+    const bool found =
+        document != nullptr && document->database()->getAcDbObjectId(id, false, AcDbHandle(handle)) == Acad::eOk;
     return found ? NameOf(id, result) : RTERROR;
 }

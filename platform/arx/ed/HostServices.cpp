@@ -145,8 +145,8 @@ ViewState GetView(const AcApDocument* document)
 bool SetView(AcApDocument* document, const ViewState& view)
 {
     Document* found = DocumentManager::Instance().Find(document);
-    const bool usable = std::isfinite(view.height) && view.height > 0 && std::isfinite(view.centre.x) &&
-                        std::isfinite(view.centre.y);
+    const bool usable =
+        std::isfinite(view.height) && view.height > 0 && std::isfinite(view.centre.x) && std::isfinite(view.centre.y);
     if (found == nullptr || !usable)
     {
         return false;

@@ -23,9 +23,7 @@ HostState& HostState::Instance()
     return *state;
 }
 
-HostState::HostState() : m_ui(NoUi())
-{
-}
+HostState::HostState() : m_ui(NoUi()) {}
 
 void HostState::SetUi(arxhost::IHostUi* ui)
 {

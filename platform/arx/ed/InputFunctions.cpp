@@ -146,8 +146,8 @@ void acedUpdateDisplay()
 
 int acedSetStatusBarProgressMeter(const ACHAR* label, int minimum, int maximum)
 {
-    const bool shown = minimum <= maximum && HostState::Instance().Ui().SetProgressMeter(
-                                                 label == nullptr ? L"" : label, minimum, maximum);
+    const bool shown = minimum <= maximum &&
+                       HostState::Instance().Ui().SetProgressMeter(label == nullptr ? L"" : label, minimum, maximum);
     return shown ? RTNORM : RTERROR;
 }
 

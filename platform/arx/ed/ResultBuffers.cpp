@@ -20,15 +20,15 @@ struct CodeRange
 };
 
 const CodeRange kDxfRanges[] = {
-    {0, 9, ValueKind::Text},           {10, 39, ValueKind::Point},         {40, 59, ValueKind::Real},
-    {60, 79, ValueKind::Short},        {90, 99, ValueKind::Long},          {100, 102, ValueKind::Text},
-    {105, 105, ValueKind::Text},       {110, 139, ValueKind::Point},       {140, 149, ValueKind::Real},
-    {170, 179, ValueKind::Short},      {210, 219, ValueKind::Point},       {270, 289, ValueKind::Short},
-    {290, 299, ValueKind::Short},      {300, 309, ValueKind::Text},        {320, 329, ValueKind::Text},
-    {330, 369, ValueKind::Name},       {370, 389, ValueKind::Short},       {390, 399, ValueKind::Name},
-    {400, 409, ValueKind::Short},      {410, 419, ValueKind::Text},        {420, 427, ValueKind::Long},
-    {1000, 1009, ValueKind::Text},     {1010, 1039, ValueKind::Point},     {1040, 1042, ValueKind::Real},
-    {1070, 1070, ValueKind::Short},    {1071, 1071, ValueKind::Long},
+    {0, 9, ValueKind::Text},        {10, 39, ValueKind::Point},     {40, 59, ValueKind::Real},
+    {60, 79, ValueKind::Short},     {90, 99, ValueKind::Long},      {100, 102, ValueKind::Text},
+    {105, 105, ValueKind::Text},    {110, 139, ValueKind::Point},   {140, 149, ValueKind::Real},
+    {170, 179, ValueKind::Short},   {210, 219, ValueKind::Point},   {270, 289, ValueKind::Short},
+    {290, 299, ValueKind::Short},   {300, 309, ValueKind::Text},    {320, 329, ValueKind::Text},
+    {330, 369, ValueKind::Name},    {370, 389, ValueKind::Short},   {390, 399, ValueKind::Name},
+    {400, 409, ValueKind::Short},   {410, 419, ValueKind::Text},    {420, 427, ValueKind::Long},
+    {1000, 1009, ValueKind::Text},  {1010, 1039, ValueKind::Point}, {1040, 1042, ValueKind::Real},
+    {1070, 1070, ValueKind::Short}, {1071, 1071, ValueKind::Long},
 };
 
 ValueKind KindOfDxfCode(int code)

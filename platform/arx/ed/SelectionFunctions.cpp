@@ -95,8 +95,8 @@ ObjectIds InWindow(const Document& document, const void* corner1, const void* co
                              [&](AcDbObjectId id) {
                                  AcDbExtents box;
                                  const AcDbEntityPointer entity(id);
-                                 const bool known = entity.openStatus() == Acad::eOk &&
-                                                    entity->getGeomExtents(box) == Acad::eOk;
+                                 const bool known =
+                                     entity.openStatus() == Acad::eOk && entity->getGeomExtents(box) == Acad::eOk;
                                  return !known || !(crossing ? Touches(window, box) : Contains(window, box));
                              }),
               ids.end());
@@ -171,9 +171,9 @@ int acedSSGet(const ACHAR* mode, const void* point1, const void* point2, const r
     {
         return code;
     }
-    ids.erase(std::remove_if(ids.begin(), ids.end(),
-                             [&](AcDbObjectId id) { return !arxed::MatchesFilter(id, filter); }),
-              ids.end());
+    ids.erase(
+        std::remove_if(ids.begin(), ids.end(), [&](AcDbObjectId id) { return !arxed::MatchesFilter(id, filter); }),
+        ids.end());
     if (ids.empty())
     {
         return RTERROR;

@@ -29,7 +29,7 @@ public:
     static const bool kMovesBytes = false;
 };
 
-template<class T, class R = AcArrayMemCopyReallocator<T> >
+template<class T, class R = AcArrayMemCopyReallocator<T>>
 class AcArray
 {
 public:

@@ -14,8 +14,7 @@
 // `filter` limits the entities by DXF codes: 0 record name, 8 layer, 62 colour index, 5 handle; texts may hold wild
 // cards * ? and alternatives separated by commas.
 // RTERROR when nothing was found or no set is free, RTCAN when the user gave up, RTREJ for another mode.
-ARX_API int acedSSGet(const ACHAR* mode, const void* point1, const void* point2, const resbuf* filter,
-                      ads_name result);
+ARX_API int acedSSGet(const ACHAR* mode, const void* point1, const void* point2, const resbuf* filter, ads_name result);
 // Both null: a new empty set. Only `ename`: a new set with this entity. Both: adds to the set, nothing happens when it
 // is in. `sname` and `result` may be the same.
 ARX_API int acedSSAdd(const ads_name ename, const ads_name sname, ads_name result);

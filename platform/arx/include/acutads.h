@@ -20,7 +20,7 @@ ARX_API void acutDelString(ACHAR*& text);
 ARX_API resbuf* acutNewRb(int type);
 // Frees the whole list with its strings. RTERROR for null.
 ARX_API int acutRelRb(resbuf* list);
-// Values in pairs of type and value, closed by RTNONE or by a 0 that is not the first type: double for real and angle, ads_point for points,
-// int for short, int for long, const ACHAR* for strings, ads_name for names; the list and nil marks have no value.
-// Null when a type is unknown.
+// Values in pairs of type and value, closed by RTNONE or by a 0 that is not the first type: double for real and angle,
+// ads_point for points, int for short, int for long, const ACHAR* for strings, ads_name for names; the list and nil
+// marks have no value. Null when a type is unknown.
 ARX_API resbuf* acutBuildList(int type, ...);

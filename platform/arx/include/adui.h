@@ -8,8 +8,8 @@
 
 #include "arx/Api.h"
 
-// Sent by the host to a modeless dialog that holds the focus, before the host takes the focus back to its command line: TRUE
-// keeps the focus in the dialog, FALSE gives it away.
+// Sent by the host to a modeless dialog that holds the focus, before the host takes the focus back to its command line:
+// TRUE keeps the focus in the dialog, FALSE gives it away.
 #ifndef WM_ACAD_KEEPFOCUS
 #define WM_ACAD_KEEPFOCUS (WM_USER + 0x6D01)
 #endif

@@ -13,7 +13,8 @@ class ARX_API CAdUiBaseDialog : public CDialog
     DECLARE_DYNAMIC(CAdUiBaseDialog)
 
 public:
-    // hDialogResource: the module that holds the template; NULL takes the current resource handle at the time of creation.
+    // hDialogResource: the module that holds the template; NULL takes the current resource handle at the time of
+    // creation.
     CAdUiBaseDialog(UINT idd, CWnd* pParent = NULL, HINSTANCE hDialogResource = NULL);
     virtual ~CAdUiBaseDialog();
 

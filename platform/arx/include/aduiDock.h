@@ -1,9 +1,9 @@
 // CAdUiDockControlBar: a control bar that docks at an edge of the host's frame or floats in a small frame of its own.
 //
-// Use: Create, SetToolID, EnableDocking, RestoreControlBar, then CFrameWnd::ShowControlBar(bar, TRUE, FALSE). The user drags
-// the bar by its caption, docks it by dropping it at an edge (Ctrl prevents that), sizes it at the splitter or at the border of
-// the floating frame, and hides it by the close button. Closing hides, it never destroys; the owner calls DestroyWindow and
-// deletes the object. With a tool identifier the place survives the session.
+// Use: Create, SetToolID, EnableDocking, RestoreControlBar, then CFrameWnd::ShowControlBar(bar, TRUE, FALSE). The user
+// drags the bar by its caption, docks it by dropping it at an edge (Ctrl prevents that), sizes it at the splitter or at
+// the border of the floating frame, and hides it by the close button. Closing hides, it never destroys; the owner calls
+// DestroyWindow and deletes the object. With a tool identifier the place survives the session.
 //
 // Coordinates are pixels; rectangles of floating frames are screen coordinates.
 #pragma once
@@ -45,10 +45,10 @@ public:
     CString GetName() const;
     BOOL SetName(LPCTSTR lpszName);
 
-    // Place. EnableDocking takes CBRS_ALIGN_ bits. RestoreControlBar takes the saved layout of the tool identifier; without
-    // one the bar docks at nPreferredDockBar (an AFX_IDW_DOCKBAR_ identifier; AFX_IDW_DOCKBAR_FLOAT floats it at *pRect).
-    // DockControlBar: 0 stands for the side it was last docked at. All keep the bar shown or hidden as it is, but for a saved
-    // layout, which was either.
+    // Place. EnableDocking takes CBRS_ALIGN_ bits. RestoreControlBar takes the saved layout of the tool identifier;
+    // without one the bar docks at nPreferredDockBar (an AFX_IDW_DOCKBAR_ identifier; AFX_IDW_DOCKBAR_FLOAT floats it
+    // at *pRect). DockControlBar: 0 stands for the side it was last docked at. All keep the bar shown or hidden as it
+    // is, but for a saved layout, which was either.
     void EnableDocking(DWORD dwDockStyle);
     void RestoreControlBar(int nPreferredDockBar = AFX_IDW_DOCKBAR_LEFT, const CRect* pRect = NULL);
     BOOL DockControlBar(UINT nDockBarID, LPCRECT lpRect = NULL);
@@ -65,9 +65,9 @@ public:
     // Writes the layout into the application's profile; nothing without a tool identifier.
     void SaveLayout();
 
-    // Overridables. GetMinimumSize and GetMaximumSize answer for the whole bar (0: no limit). CanFrameworkTakeFocus is asked
-    // before the host takes the focus back to its command line. OnClosing may refuse (FALSE). SizeChanged tells a new size of
-    // the bar; InitFloatingPosition may change the rectangle of the first floating.
+    // Overridables. GetMinimumSize and GetMaximumSize answer for the whole bar (0: no limit). CanFrameworkTakeFocus is
+    // asked before the host takes the focus back to its command line. OnClosing may refuse (FALSE). SizeChanged tells a
+    // new size of the bar; InitFloatingPosition may change the rectangle of the first floating.
     virtual void GetMinimumSize(CSize& size);
     virtual void GetMaximumSize(CSize& size);
     virtual bool CanFrameworkTakeFocus();

@@ -27,8 +27,8 @@ public:
     BOOL IsActive() const;
     DWORD GetPaletteStyle() const;
 
-    // Persistence: called when the set's layout is restored and saved. pUnk is the node to read from or write to; this host
-    // keeps the layout in the profile and passes NULL. TRUE on success.
+    // Persistence: called when the set's layout is restored and saved. pUnk is the node to read from or write to; this
+    // host keeps the layout in the profile and passes NULL. TRUE on success.
     virtual BOOL Load(IUnknown* pUnk);
     virtual BOOL Save(IUnknown* pUnk);
 

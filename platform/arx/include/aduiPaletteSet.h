@@ -1,9 +1,8 @@
 // CAdUiPaletteSet: a dockable bar that holds palettes, one visible at a time, the others behind tabs.
 //
 //     CAdUiPaletteSet* set = new CMySet;
-//     set->Create(_T("Name"), WS_OVERLAPPED | WS_DLGFRAME, rect, acedGetAcadFrame(), PSS_CLOSE_BUTTON | PSS_AUTO_ROLLUP);
-//     palette->Create(WS_CHILD | WS_VISIBLE, _T("Name"), set);
-//     set->AddPalette(palette);
+//     set->Create(_T("Name"), WS_OVERLAPPED | WS_DLGFRAME, rect, acedGetAcadFrame(), PSS_CLOSE_BUTTON |
+//     PSS_AUTO_ROLLUP); palette->Create(WS_CHILD | WS_VISIBLE, _T("Name"), set); set->AddPalette(palette);
 //     set->SetToolID(&clsid);
 //     set->EnableDocking(CBRS_ALIGN_ANY);
 //     set->RestoreControlBar(AFX_IDW_DOCKBAR_LEFT);
@@ -38,9 +37,9 @@ public:
     virtual BOOL Create(LPCTSTR lpszTitle, DWORD dwStyle, const RECT& rect, CWnd* pParent,
                         DWORD dwPaletteSetStyle = PSS_PROPERTIES_MENU | PSS_AUTO_ROLLUP | PSS_CLOSE_BUTTON);
 
-    // Palettes are borrowed: their owner destroys them. AddPalette answers the index, -1 on failure (NULL, without a window,
-    // already there). The first palette added becomes the active one. RemovePalette hides the palette and activates its
-    // neighbour; FALSE for a bad index.
+    // Palettes are borrowed: their owner destroys them. AddPalette answers the index, -1 on failure (NULL, without a
+    // window, already there). The first palette added becomes the active one. RemovePalette hides the palette and
+    // activates its neighbour; FALSE for a bad index.
     int AddPalette(CAdUiPalette* pPalette);
     BOOL RemovePalette(int nPaletteIndex);
     int GetPaletteCount() const;

@@ -47,9 +47,9 @@ inline AcRxArxCommandEntry*& acrxModuleCommands()
     return first;
 }
 
-inline AcRxArxCommandEntry::AcRxArxCommandEntry(const ACHAR* groupName, const ACHAR* globalName,
-                                                const ACHAR* localName, Adesk::Int32 commandFlags,
-                                                Function commandFunction, AcEdUIContext* context)
+inline AcRxArxCommandEntry::AcRxArxCommandEntry(const ACHAR* groupName, const ACHAR* globalName, const ACHAR* localName,
+                                                Adesk::Int32 commandFlags, Function commandFunction,
+                                                AcEdUIContext* context)
     : group(groupName), global(globalName), local(localName), flags(commandFlags), function(commandFunction),
       uiContext(context), next(acrxModuleCommands())
 {
@@ -58,8 +58,9 @@ inline AcRxArxCommandEntry::AcRxArxCommandEntry(const ACHAR* groupName, const AC
 
 // Declares a command whose function is the static member `<group><globCmd>` of the application class.
 #define ACED_ARXCOMMAND_ENTRY_AUTO(CLASS_NAME, GROUP, GLOBAL_NAME, LOCAL_NAME, FLAGS, UI_CONTEXT)                      \
-    static AcRxArxCommandEntry acrxCommand_##GROUP##GLOBAL_NAME(                                                       \
-        ACRX_T(#GROUP), ACRX_T(#GLOBAL_NAME), ACRX_T(#LOCAL_NAME), FLAGS, &CLASS_NAME::GROUP##GLOBAL_NAME, UI_CONTEXT);
+    static AcRxArxCommandEntry acrxCommand_##GROUP##GLOBAL_NAME(ACRX_T(#GROUP), ACRX_T(#GLOBAL_NAME),                  \
+                                                                ACRX_T(#LOCAL_NAME), FLAGS,                            \
+                                                                &CLASS_NAME::GROUP##GLOBAL_NAME, UI_CONTEXT);
 
 // One handler a message; each does nothing and answers kRetOK until a derived class does more.
 class AcRxDbxApp

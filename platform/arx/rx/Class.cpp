@@ -28,6 +28,4 @@ bool AcRxClass::isDerivedFrom(const AcRxClass* other) const
     return false;
 }
 
-void acrxBuildClassHierarchy()
-{
-}
+void acrxBuildClassHierarchy() {}

@@ -5,7 +5,10 @@
 namespace
 {
 
-#define ARX_STATUS(CODE) {Acad::CODE, ACRX_T(#CODE)}
+#define ARX_STATUS(CODE)                                                                                               \
+    {                                                                                                                  \
+        Acad::CODE, ACRX_T(#CODE)                                                                                      \
+    }
 
 const std::map<Acad::ErrorStatus, const ACHAR*>& StatusNames()
 {

@@ -8,41 +8,23 @@ using arxrx::DynamicLinker;
 ACRX_NO_CONS_DEFINE_MEMBERS(AcRxDynamicLinker, AcRxObject)
 ACRX_NO_CONS_DEFINE_MEMBERS(AcRxDLinkerReactor, AcRxObject)
 
-AcRxDynamicLinker::AcRxDynamicLinker()
-{
-}
+AcRxDynamicLinker::AcRxDynamicLinker() {}
 
-AcRxDynamicLinker::~AcRxDynamicLinker()
-{
-}
+AcRxDynamicLinker::~AcRxDynamicLinker() {}
 
-AcRxDLinkerReactor::~AcRxDLinkerReactor()
-{
-}
+AcRxDLinkerReactor::~AcRxDLinkerReactor() {}
 
-void AcRxDLinkerReactor::rxAppWillBeLoaded(const ACHAR* /*moduleName*/)
-{
-}
+void AcRxDLinkerReactor::rxAppWillBeLoaded(const ACHAR* /*moduleName*/) {}
 
-void AcRxDLinkerReactor::rxAppLoaded(const ACHAR* /*moduleName*/)
-{
-}
+void AcRxDLinkerReactor::rxAppLoaded(const ACHAR* /*moduleName*/) {}
 
-void AcRxDLinkerReactor::rxAppLoadAborted(const ACHAR* /*moduleName*/)
-{
-}
+void AcRxDLinkerReactor::rxAppLoadAborted(const ACHAR* /*moduleName*/) {}
 
-void AcRxDLinkerReactor::rxAppWillBeUnloaded(const ACHAR* /*moduleName*/)
-{
-}
+void AcRxDLinkerReactor::rxAppWillBeUnloaded(const ACHAR* /*moduleName*/) {}
 
-void AcRxDLinkerReactor::rxAppUnloaded(const ACHAR* /*moduleName*/)
-{
-}
+void AcRxDLinkerReactor::rxAppUnloaded(const ACHAR* /*moduleName*/) {}
 
-void AcRxDLinkerReactor::rxAppUnloadAborted(const ACHAR* /*moduleName*/)
-{
-}
+void AcRxDLinkerReactor::rxAppUnloadAborted(const ACHAR* /*moduleName*/) {}
 
 bool acrxLoadModule(const ACHAR* moduleName, bool printit, bool asCmd)
 {

@@ -1,8 +1,6 @@
 #include "rxobject.h"
 
-AcRxObject::~AcRxObject()
-{
-}
+AcRxObject::~AcRxObject() {}
 
 AcRxClass* AcRxObject::desc()
 {

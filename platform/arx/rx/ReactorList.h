@@ -42,10 +42,7 @@ public:
     }
 
 private:
-    bool Has(T* reactor) const
-    {
-        return std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end();
-    }
+    bool Has(T* reactor) const { return std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end(); }
 
     std::vector<T*> m_reactors;
 };

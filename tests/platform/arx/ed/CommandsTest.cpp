@@ -64,10 +64,10 @@ void CloseItself()
 
 void CallAnother()
 {
-    theTrace += acedCommand(RTSTR, L"READANSWERS", RTSTR, L"a b", RTSHORT, 4, RTREAL, 2.5, RTSTR, L"end", RTNONE) ==
-                        RTNORM
-                    ? L" called"
-                    : L" failed";
+    theTrace +=
+        acedCommand(RTSTR, L"READANSWERS", RTSTR, L"a b", RTSHORT, 4, RTREAL, 2.5, RTSTR, L"end", RTNONE) == RTNORM
+            ? L" called"
+            : L" failed";
 }
 
 void Throw()

@@ -42,8 +42,8 @@ protected:
     }
 
     // Members of what acedSSGet() finds; empty when it finds nothing.
-    static std::vector<AcDbObjectId> Get(const ACHAR* mode, const void* point1 = nullptr,
-                                         const void* point2 = nullptr, const resbuf* filter = nullptr)
+    static std::vector<AcDbObjectId> Get(const ACHAR* mode, const void* point1 = nullptr, const void* point2 = nullptr,
+                                         const resbuf* filter = nullptr)
     {
         ads_name set;
         if (acedSSGet(mode, point1, point2, filter, set) != RTNORM)

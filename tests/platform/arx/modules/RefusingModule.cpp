@@ -5,9 +5,7 @@
 namespace
 {
 
-void Nothing()
-{
-}
+void Nothing() {}
 
 } // namespace
 
