@@ -6,6 +6,9 @@
 
 #include <rxregsvc.h>
 
+#include <stdexcept>
+#include <string>
+
 class LoadedModule
 {
 public:
@@ -37,24 +40,35 @@ public:
 
     bool Add(const wchar_t* group, const wchar_t* text) const
     {
-        const auto add = Find<decltype(&KTMsgWnd::AddMsg)>(
-            "_ZN8KTMsgWnd6AddMsgENS_8EMsgTypeEPKwS2_bPK7AcArrayI12AcDbObjectId24AcArrayMemCopyReallocatorIS4_"
-            "EEPK11AcDbExtents");
-        return add != NULL && add(KTMsgWnd::eInfo, group, text, false, NULL, NULL);
+        return Find<decltype(&KTMsgWnd::AddMsg)>("_ZN8KTMsgWnd6AddMsgE")(KTMsgWnd::eInfo, group, text, false, NULL,
+                                                                         NULL);
     }
 
     int Count(const wchar_t* group) const
     {
-        return Find<decltype(&KTMsgWnd::GetMsgCount)>("_ZN8KTMsgWnd11GetMsgCountEPKw")(group);
+        return Find<decltype(&KTMsgWnd::GetMsgCount)>("_ZN8KTMsgWnd11GetMsgCountE")(group);
     }
 
-    bool Show(bool show) const { return Find<decltype(&KTMsgWnd::ShowMsgWnd)>("_ZN8KTMsgWnd10ShowMsgWndEb")(show); }
+    bool Show(bool show) const { return Find<decltype(&KTMsgWnd::ShowMsgWnd)>("_ZN8KTMsgWnd10ShowMsgWndE")(show); }
 
+    // The export whose name begins so: what follows in the compiler's names are the parameters.
     template<class FUNCTION>
-    FUNCTION Find(const char* name) const
+    FUNCTION Find(const std::string& begin) const
     {
-        // By way of void*, because the compiler warns of casts between function types.
-        return reinterpret_cast<FUNCTION>(reinterpret_cast<void*>(::GetProcAddress(Handle(), name)));
+        const BYTE* const base = reinterpret_cast<const BYTE*>(Handle());
+        const auto dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+        const auto headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+        const DWORD table = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT].VirtualAddress;
+        const auto exports = reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(base + table);
+        const auto names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
+        for (DWORD i = 0; i < exports->NumberOfNames; ++i)
+        {
+            const char* const name = reinterpret_cast<const char*>(base + names[i]);
+            // By way of void*, because the compiler warns of casts between function types.
+            if (std::string(name).compare(0, begin.size(), begin) == 0)
+                return reinterpret_cast<FUNCTION>(reinterpret_cast<void*>(::GetProcAddress(Handle(), name)));
+        }
+        throw std::runtime_error("the module does not export " + begin);
     }
 
 private:

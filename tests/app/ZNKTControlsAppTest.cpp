@@ -238,7 +238,7 @@ TEST_F(ModuleEntry, UnloadFreesTheStore)
         LoadedModule module;
         ASSERT_TRUE(module.IsLoaded());
         for (int i = 0; i < 50000; ++i)
-            module.Add(L"g", L"a text of some length, kept for every message of its own");
+            ASSERT_TRUE(module.Add(L"g", L"a text of some length, kept for every message of its own"));
     };
     // The first rounds let the heap take its shape.
     cycle();

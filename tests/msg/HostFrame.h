@@ -1,9 +1,11 @@
-// The host's main frame for a test: a real, visible MDI frame that palettes dock in.
+// The host's main frame for a test: a real, visible MDI frame that palettes dock in, with a profile of its own, so that
+// layouts and settings of one test never meet another.
 #pragma once
 
 #include <afxwin.h>
 #include <afxext.h>
 
+#include "HostFixture.h"
 #include "base/ModuleInstance.h"
 #include "arx/ed/HostServices.h"
 
@@ -32,5 +34,6 @@ public:
     CMDIFrameWnd& Wnd() { return *m_frame; }
 
 private:
+    TemporaryProfile m_profile;
     CMDIFrameWnd* m_frame;
 };

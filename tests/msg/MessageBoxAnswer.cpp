@@ -3,8 +3,7 @@
 namespace
 {
 
-// Control identifiers inside a message box.
-constexpr int kIcon = 20;
+// Control identifier of the text in a message box; that of the icon differs between Windows and Wine.
 constexpr int kText = 0xFFFF;
 
 std::wstring TextOf(HWND window)
@@ -12,6 +11,17 @@ std::wstring TextOf(HWND window)
     std::wstring text(static_cast<size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<size_t>(::GetWindowTextW(window, &text[0], static_cast<int>(text.size()))));
     return text;
+}
+
+HICON IconOf(HWND box)
+{
+    HWND child = NULL;
+    while ((child = ::FindWindowExW(box, child, L"Static", NULL)) != NULL)
+    {
+        if ((::GetWindowLongPtrW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON)
+            return reinterpret_cast<HICON>(::SendMessageW(child, STM_GETICON, 0, 0));
+    }
+    return NULL;
 }
 
 bool IsDialog(HWND window)
@@ -51,7 +61,7 @@ void MessageBoxAnswer::Press(HWND window)
     box.caption = TextOf(window);
     box.text = TextOf(::GetDlgItem(window, kText));
     box.hasYesAndNo = ::GetDlgItem(window, IDYES) != NULL && ::GetDlgItem(window, IDNO) != NULL;
-    box.icon = reinterpret_cast<HICON>(::SendDlgItemMessageW(window, kIcon, STM_GETICON, 0, 0));
+    box.icon = IconOf(window);
     m_boxes.push_back(box);
     ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(m_button), 0);
 }

@@ -13,18 +13,9 @@
 class ViewerFixture : public StoreFixture
 {
 protected:
-    ViewerFixture()
-    {
-        SetShowTree(true);
-        ForgetLayouts();
-    }
-
     ~ViewerFixture() override { CMsgViewWnd::DestroyInstance(); }
 
     static void SetShowTree(bool show) { AfxGetApp()->WriteProfileInt(L"消息查看器", L"显示树", show); }
-
-    // What the host keeps about places of palettes.
-    static void ForgetLayouts() { AfxGetApp()->WriteProfileString(L"Palettes", NULL, NULL); }
 
     static int GetShowTree() { return AfxGetApp()->GetProfileInt(L"消息查看器", L"显示树", -1); }
 

@@ -13,12 +13,22 @@ const CRect frameRect(20, 20, 1020, 720);
 // SendInput measures the screen in 65536ths.
 const int absoluteRange = 65536;
 
+// An ini file holds any character only when it begins with the mark of UTF-16; without it, the characters of one code
+// page.
+void MakeUnicodeFile(const wchar_t* path)
+{
+    CFile file(path, CFile::modeCreate | CFile::modeWrite);
+    const wchar_t mark = 0xFEFF;
+    file.Write(&mark, sizeof(mark));
+}
+
 std::wstring NewProfilePath()
 {
     wchar_t folder[MAX_PATH];
     wchar_t path[MAX_PATH];
     ::GetTempPathW(MAX_PATH, folder);
     ::GetTempFileNameW(folder, L"prf", 0, path);
+    MakeUnicodeFile(path);
     return path;
 }
 
@@ -40,7 +50,8 @@ LONG Absolute(int pixel, int extent)
 } // namespace
 
 TemporaryProfile::TemporaryProfile()
-    : m_path(NewProfilePath()), m_formerProfile(AfxGetApp()->m_pszProfileName), m_formerKey(AfxGetApp()->m_pszRegistryKey)
+    : m_path(NewProfilePath()), m_formerProfile(AfxGetApp()->m_pszProfileName),
+      m_formerKey(AfxGetApp()->m_pszRegistryKey)
 {
     AfxGetApp()->m_pszRegistryKey = NULL;
     AfxGetApp()->m_pszProfileName = m_path.c_str();
