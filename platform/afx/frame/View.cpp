@@ -61,6 +61,12 @@ BOOL CView::PreCreateWindow(CREATESTRUCT& create)
     if (create.lpszClass == nullptr)
         create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
                                                reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+    // A sunken edge instead of the line.
+    if (create.style & WS_BORDER)
+    {
+        create.style &= ~WS_BORDER;
+        create.dwExStyle |= WS_EX_CLIENTEDGE;
+    }
     return CWnd::PreCreateWindow(create);
 }
 

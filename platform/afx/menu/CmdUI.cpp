@@ -43,7 +43,8 @@ void FollowChangedCount(CCmdUI& state)
     const UINT count = state.m_pMenu->GetMenuItemCount();
     if (count < state.m_nIndexMax)
     {
-        state.m_nIndex -= state.m_nIndexMax - count;
+        const UINT gone = state.m_nIndexMax - count;
+        state.m_nIndex = gone > state.m_nIndex ? UINT(-1) : state.m_nIndex - gone; // the loop's step makes -1 the first
         while (state.m_nIndex < count && state.m_pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
             ++state.m_nIndex;
     }

@@ -9,7 +9,7 @@
 class ControlFixture : public testing::Test
 {
 protected:
-    static const int ControlId = 42;
+    static constexpr int ControlId = 42;
 
     void SetUp() override
     {
@@ -20,7 +20,7 @@ protected:
     }
     void TearDown() override { m_parent.DestroyWindow(); }
 
-    static const DWORD Visible = WS_CHILD | WS_VISIBLE;
+    static constexpr DWORD Visible = WS_CHILD | WS_VISIBLE;
 
     CWnd m_parent;
     CRect m_place{10, 10, 310, 210};

@@ -24,7 +24,7 @@ public:
 class DrawnListBox : public CListBox
 {
 public:
-    static const int Height = 21;
+    static constexpr int Height = 21;
     int m_draws = 0;
     int m_deletes = 0;
     void DrawItem(LPDRAWITEMSTRUCT) override { ++m_draws; }
@@ -40,7 +40,7 @@ public:
 class DrawnComboBox : public CComboBox
 {
 public:
-    static const int Height = 19;
+    static constexpr int Height = 19;
     int m_draws = 0;
     int m_deletes = 0;
     void DrawItem(LPDRAWITEMSTRUCT) override { ++m_draws; }

@@ -112,7 +112,7 @@ TEST_F(DataExchange, NumbersGoBothWays)
     ExpectText<ULONGLONG>(L"18446744073709551615", ~0ULL);
     ExpectText<float>(L"1.25", 1.25f);
     ExpectText<double>(L"-0.001", -0.001);
-    ExpectText<double>(L"1e+20", 1e20);
+    ExpectText<double>(L"123456.789", 123456.789);
 }
 
 TEST_F(DataExchange, TextsGoBothWays)
@@ -211,8 +211,8 @@ TEST_F(DataExchange, ARangeIsCheckedAfterReading)
         };
         EXPECT_EQ(row.accepted, m_dialog.UpdateData(TRUE)) << row.text;
         EXPECT_EQ(row.accepted ? 0u : 1u, boxes.m_texts.size()) << row.text;
-        if (!row.accepted)
-            EXPECT_NE(-1, boxes.m_texts.at(0).Find(L"20")) << "the bounds are named";
+        for (const CString& text : boxes.m_texts)
+            EXPECT_NE(-1, text.Find(L"20")) << "the bounds are named";
     }
 }
 

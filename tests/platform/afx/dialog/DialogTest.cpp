@@ -207,12 +207,12 @@ TEST_F(Dialog, WithAPlaceItStandsThere)
 {
     DialogTemplate form = ScriptedDialog::Form();
     form.At(8, 16);
-    CRect rect;
+    CPoint place(0, 0); // of the client area
     CRect expected(8, 16, 0, 0);
     ScriptedDialog dialog(
         [&](ScriptedDialog& running)
         {
-            running.GetWindowRect(&rect);
+            running.ClientToScreen(&place);
             running.MapDialogRect(&expected);
             running.EndDialog(IDOK);
         });
@@ -220,8 +220,8 @@ TEST_F(Dialog, WithAPlaceItStandsThere)
     dialog.DoModal();
     CPoint origin(0, 0);
     m_owner.ClientToScreen(&origin);
-    EXPECT_EQ(origin.x + expected.left, rect.left);
-    EXPECT_EQ(origin.y + expected.top, rect.top);
+    EXPECT_EQ(origin.x + expected.left, place.x);
+    EXPECT_EQ(origin.y + expected.top, place.y);
 }
 
 TEST_F(Dialog, TheFirstTabStopHasTheFocus)
@@ -333,7 +333,8 @@ TEST_F(Dialog, UnknownCommandsGoToTheOwner)
         [](ScriptedDialog& running)
         {
             running.SendMessage(WM_COMMAND, ID_OWNER_COMMAND);
-            running.SendMessage(WM_COMMAND, MAKEWPARAM(ID_OWNER_COMMAND, EN_CHANGE));
+            const HWND control = ::GetDlgItem(running.m_hWnd, IDC_FIRST_EDIT);
+            running.SendMessage(WM_COMMAND, MAKEWPARAM(ID_OWNER_COMMAND, EN_CHANGE), LPARAM(control));
             running.EndDialog(IDOK);
         });
     dialog.Run(&m_owner);

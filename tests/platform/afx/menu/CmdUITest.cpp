@@ -40,8 +40,13 @@ protected:
         ++m_recentUpdates;
         for (UINT id = ID_RECENT_FIRST; id <= ID_RECENT_LAST; ++id)
             state->m_pMenu->DeleteMenu(id, MF_BYCOMMAND);
+        if (m_recentsToKeep == 0)
+            return;
         for (UINT added = 0; added < m_recentsToKeep; ++added)
-            state->m_pMenu->InsertMenu(state->m_nIndex + added, MF_BYPOSITION | MF_STRING, ID_RECENT_FIRST, L"file");
+            state->m_pMenu->InsertMenu(state->m_nIndex++, MF_BYPOSITION | MF_STRING, ID_RECENT_FIRST + added, L"file");
+        --state->m_nIndex; // the last one it made
+        state->m_nIndexMax = state->m_pMenu->GetMenuItemCount();
+        state->m_bEnableChanged = TRUE;
     }
     afx_msg void OnUpdateSub(CCmdUI* state)
     {
@@ -139,16 +144,25 @@ TEST_F(CmdUI, ARadioCheckIsARoundMark)
 
 // A handler may rebuild a part of the menu: every item is still visited once.
 
-TEST_F(CmdUI, AListThatShrinksIsFollowed)
+TEST_F(CmdUI, AListThatIsRebuiltIsFollowed)
 {
-    for (UINT id = ID_RECENT_FIRST; id <= ID_RECENT_LAST; ++id)
-        m_menu.InsertMenu(0, MF_BYPOSITION | MF_STRING, ID_RECENT_LAST - (id - ID_RECENT_FIRST), L"old");
-    m_target.m_recentsToKeep = 2;
-    Update();
-    EXPECT_EQ(1, m_target.m_recentUpdates);
-    EXPECT_FALSE(IsGrey(ID_HANDLED));
-    EXPECT_TRUE(IsGrey(ID_UNKNOWN));
-    EXPECT_EQ(7u, m_menu.GetMenuItemCount());
+    const UINT rows[] = {0, 1, 2, 6};
+    for (const UINT kept : rows)
+    {
+        m_menu.EnableMenuItem(ID_UNKNOWN, MF_ENABLED);
+        m_target.m_recentUpdates = 0;
+        m_target.m_recentsToKeep = kept;
+        const UINT others = m_menu.GetMenuItemCount();
+        for (UINT index = 0; index <= ID_RECENT_LAST - ID_RECENT_FIRST; ++index)
+            m_menu.InsertMenu(index, MF_BYPOSITION | MF_STRING, ID_RECENT_FIRST + index, L"old");
+        Update();
+        EXPECT_EQ(1, m_target.m_recentUpdates) << kept;
+        EXPECT_FALSE(IsGrey(ID_HANDLED)) << kept;
+        EXPECT_TRUE(IsGrey(ID_UNKNOWN)) << kept;
+        EXPECT_EQ(others + kept, m_menu.GetMenuItemCount());
+        for (UINT index = 0; index < kept; ++index)
+            m_menu.DeleteMenu(0, MF_BYPOSITION);
+    }
 }
 
 TEST_F(CmdUI, ASubmenuIsRepresentedByItsFirstItemAndLeftAlone)

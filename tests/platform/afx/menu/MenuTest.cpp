@@ -196,8 +196,8 @@ TEST(Menu, TheItemsOfASubmenuGoToItsOwnObject)
     inner.CreatePopupMenu();
     inner.AppendMenu(MF_OWNERDRAW, ID_INNER, L"3");
     outer.AppendMenu(MF_POPUP, UINT_PTR(inner.m_hMenu), L"Inner");
-    const HMENU tracked = AfxGetThreadState()->m_hTrackingMenu;
     AfxGetThreadState()->m_hTrackingMenu = outer.m_hMenu;
+    AfxGetThreadState()->m_hTrackingWindow = owner.m_hWnd;
 
     MEASUREITEMSTRUCT measure = {};
     measure.CtlType = ODT_MENU;
@@ -209,7 +209,8 @@ TEST(Menu, TheItemsOfASubmenuGoToItsOwnObject)
     draw.hwndItem = reinterpret_cast<HWND>(inner.m_hMenu);
     owner.SendMessage(WM_DRAWITEM, 0, LPARAM(&draw));
 
-    AfxGetThreadState()->m_hTrackingMenu = tracked;
+    AfxGetThreadState()->m_hTrackingMenu = nullptr;
+    AfxGetThreadState()->m_hTrackingWindow = nullptr;
     EXPECT_EQ(std::vector<UINT>{ID_INNER}, inner.m_measured);
     EXPECT_EQ(std::vector<UINT>{ID_INNER}, inner.m_drawn);
     EXPECT_TRUE(outer.m_measured.empty());
