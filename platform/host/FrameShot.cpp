@@ -96,6 +96,14 @@ private:
     HDC m_dc;
 };
 
+// Wine keeps what was painted in memory and hands it to the display when the thread begins to wait for messages, not when
+// the batch of drawing calls is flushed: without a wait the picture lacks the last windows painted.
+void LetPaintingReachScreen()
+{
+    const DWORD shortestWait = 1;
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, shortestWait, 0);
+}
+
 HBITMAP CopyScreen(const CRect& area)
 {
     const ScreenDc screen;
@@ -130,6 +138,7 @@ std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path)
         return L"系统不能生成 PNG 图片。";
     EnumWindows(&PaintPopup, reinterpret_cast<LPARAM>(frame.m_hWnd));
     GdiFlush();
+    LetPaintingReachScreen();
     const arxui::GdiObject<HBITMAP> shot(CopyScreen(AreaWithPopups(frame.m_hWnd)));
     Gdiplus::Bitmap picture(shot.Get(), nullptr);
     if (picture.Save(path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
