@@ -7,8 +7,35 @@
 namespace arxed
 {
 
+namespace
+{
+
+// An empty drawing shows about a sheet of paper, in millimetres.
+const double kEmptyWidth = 420;
+const double kEmptyHeight = 297;
+const double kMargin = 1.1;
+
+// All of the drawing; as a square, because the window's shape is not known here.
+arxhost::ViewState FirstView(const AcDbExtents& box)
+{
+    arxhost::ViewState view;
+    view.centre = AcGePoint2d(kEmptyWidth / 2, kEmptyHeight / 2);
+    view.height = kEmptyHeight;
+    if (box == AcDbExtents())
+    {
+        return view;
+    }
+    const AcGePoint3d middle = box.minPoint() + (box.maxPoint() - box.minPoint()) / 2;
+    const AcGeVector3d size = box.maxPoint() - box.minPoint();
+    view.centre = AcGePoint2d(middle.x, middle.y);
+    view.height = std::max(size.x, size.y) > 0 ? std::max(size.x, size.y) * kMargin : kEmptyHeight;
+    return view;
+}
+
+} // namespace
+
 Document::Document(const std::wstring& title, const std::wstring& path, std::unique_ptr<AcDbDatabase> database)
-    : m_title(title), m_path(path), m_database(std::move(database))
+    : view(FirstView(database->modelExtents())), m_title(title), m_path(path), m_database(std::move(database))
 {
     m_database->addReactor(this);
 }

@@ -99,7 +99,8 @@ ARX_API bool SetCurrentDocument(AcApDocument* document);
 ARX_API std::vector<AcApDocument*> Documents();
 ARX_API bool IsDocument(const AcApDocument* document);
 
-// View. A height that is not a positive number is refused with false.
+// View. A new document shows all of its drawing, an empty one a sheet of paper. A height that is not a positive number
+// is refused with false.
 ARX_API ViewState GetView(const AcApDocument* document);
 ARX_API bool SetView(AcApDocument* document, const ViewState& view);
 
