@@ -13,10 +13,10 @@ inline size_t CountGdiObjects()
     struct Entry
     {
         UINT64 object;
-        WORD owner;
+        DWORD owner;
         WORD unique;
-        WORD type;
-        WORD flags;
+        BYTE type;
+        BYTE flags;
         UINT64 userPointer;
     };
     constexpr size_t tableOffsetInPeb = 0xF8;

@@ -161,6 +161,9 @@ TEST(ImageList, OwnerIsFoundAndTemporaryOnesOnlyBorrow)
     EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(foreign));
     CImageList::FromHandle(foreign);
     CImageList::DeleteTempMap();
-    EXPECT_EQ(1, ImageList_GetImageCount(foreign));
+    int width = 0;
+    int height = 0;
+    EXPECT_TRUE(ImageList_GetIconSize(foreign, &width, &height));
+    EXPECT_EQ(8, width);
     ImageList_Destroy(foreign);
 }
