@@ -1,6 +1,8 @@
 // The view that shows a box. Plain arithmetic, in drawing units.
 #pragma once
 
+#include "ZnAcadUiBase.h"
+
 namespace zoom
 {
 struct Box
@@ -20,5 +22,5 @@ struct View
 
 // The smallest view of that aspect (width by height of the window) that shows the box and a margin around it. A box
 // without width and height keeps `currentHeight`.
-View FitBox(const Box& box, double aspect, double currentHeight);
+ZNACADUIBASE_API View FitBox(const Box& box, double aspect, double currentHeight);
 } // namespace zoom

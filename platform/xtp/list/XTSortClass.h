@@ -4,7 +4,9 @@
 //   sorter.Sort(true, xtSortString);
 //
 // Rows move whole: item data, check marks, images, selection and focus stay with them. Rows with equal keys keep their
-// order, ascending and descending. Each text is read once.
+// order, ascending and descending. Each text is read once. Rows whose item data another row has too carry a different
+// one while they are sorted, and the list reports these changes; with an item data of its own for each row it reports
+// nothing and is much faster.
 //
 // String compares the characters by their codes, capitals before small letters. The other types read the text from its
 // beginning; a text that can't be read counts as 0 and, for dates, as earlier than every date. Dates are year-month-day

@@ -2,6 +2,7 @@
 #include <ZnAcadUiBase.h>
 
 #include "DrawingFixture.h"
+#include "suite/ZnAcadUiBase/ZoomMath.h"
 
 namespace
 {
@@ -108,4 +109,18 @@ TEST_F(Zoom, NeedsADocument)
 {
     arxhost::Reset();
     EXPECT_FALSE(ZnAcadUiBase::ZoomTo(Box(0, 0, 10, 10)));
+}
+
+TEST(ZoomMath, TheLargerOfHeightAndWidthAtTheWindowsAspectDecides)
+{
+    const zoom::Box box = {0, 0, 400, 100};
+    EXPECT_NEAR(220, zoom::FitBox(box, 2, 1).height, 1e-9);
+    EXPECT_NEAR(110, zoom::FitBox(box, 5, 1).height, 1e-9);
+    EXPECT_NEAR(880, zoom::FitBox(box, 0.5, 1).height, 1e-9);
+}
+
+TEST(ZoomMath, ALineIsShownByItsOneLength)
+{
+    EXPECT_NEAR(110, zoom::FitBox(zoom::Box{0, 0, 0, 100}, 2, 1).height, 1e-9);
+    EXPECT_NEAR(55, zoom::FitBox(zoom::Box{0, 0, 100, 0}, 2, 1).height, 1e-9);
 }
