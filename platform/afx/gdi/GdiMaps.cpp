@@ -1,5 +1,7 @@
 #include "afx/gdi/GdiMaps.h"
 
+#include "afx/core/ThreadLocal.h"
+
 namespace
 {
 template<class OBJECT> OBJECT* MakeTemporary(HGDIOBJ handle)
@@ -43,20 +45,20 @@ void LetGoOfImageList(CImageList* images)
 
 CHandleMap<CGdiObject, HGDIOBJ>& AfxGdiObjectMap()
 {
-    static thread_local CHandleMap<CGdiObject, HGDIOBJ> map(&MakeTemporary<CGdiObject>, &LetGoOfObject);
-    return map;
+    static CPerThread<CHandleMap<CGdiObject, HGDIOBJ>> maps;
+    return maps.Get([] { return new CHandleMap<CGdiObject, HGDIOBJ>(&MakeTemporary<CGdiObject>, &LetGoOfObject); });
 }
 
 CHandleMap<CDC, HDC>& AfxDCMap()
 {
-    static thread_local CHandleMap<CDC, HDC> map(&MakeTemporaryDC, &LetGoOfDC);
-    return map;
+    static CPerThread<CHandleMap<CDC, HDC>> maps;
+    return maps.Get([] { return new CHandleMap<CDC, HDC>(&MakeTemporaryDC, &LetGoOfDC); });
 }
 
 CHandleMap<CImageList, HIMAGELIST>& AfxImageListMap()
 {
-    static thread_local CHandleMap<CImageList, HIMAGELIST> map(&MakeTemporaryImageList, &LetGoOfImageList);
-    return map;
+    static CPerThread<CHandleMap<CImageList, HIMAGELIST>> maps;
+    return maps.Get([] { return new CHandleMap<CImageList, HIMAGELIST>(&MakeTemporaryImageList, &LetGoOfImageList); });
 }
 
 void AfxDeleteTempGdiMaps()

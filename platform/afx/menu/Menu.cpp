@@ -2,6 +2,7 @@
 
 #include "afx/app/Resource.h"
 #include "afx/core/HandleMap.h"
+#include "afx/core/ThreadLocal.h"
 #include "afx/gdi/GdiObject.h"
 #include "afx/wnd/Wnd.h"
 
@@ -25,8 +26,8 @@ void LetGoOfMenu(CMenu* menu)
 
 MenuMap& ThreadMenuMap()
 {
-    static thread_local MenuMap map(&MakeTemporaryMenu, &LetGoOfMenu);
-    return map;
+    static CPerThread<MenuMap> maps;
+    return maps.Get([] { return new MenuMap(&MakeTemporaryMenu, &LetGoOfMenu); });
 }
 
 // A bitmap stands in a menu in the place of the text.

@@ -1,11 +1,12 @@
 #include <afxwin.h>
 
+#include "afx/core/ThreadLocal.h"
 #include "afx/gdi/GdiMaps.h"
 
 _AFX_THREAD_STATE* AFXAPI AfxGetThreadState()
 {
-    static thread_local _AFX_THREAD_STATE state;
-    return &state;
+    static CPerThread<_AFX_THREAD_STATE> states;
+    return &states.Get([] { return new _AFX_THREAD_STATE; });
 }
 
 AFX_MODULE_STATE* AFXAPI AfxGetModuleState()

@@ -1,5 +1,6 @@
 #include <afxwin.h>
 
+#include "afx/core/ThreadLocal.h"
 #include "afx/wnd/WndMap.h"
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
@@ -30,8 +31,8 @@ bool IsPlace(const CWnd* object)
 
 CHandleMap<CWnd, HWND>& AfxWndMap()
 {
-    static thread_local CHandleMap<CWnd, HWND> map(&MakeTemporary, &LetGo);
-    return map;
+    static CPerThread<CHandleMap<CWnd, HWND>> maps;
+    return maps.Get([] { return new CHandleMap<CWnd, HWND>(&MakeTemporary, &LetGo); });
 }
 
 CWnd::CWnd()

@@ -109,7 +109,9 @@ BOOL CWnd::EnableToolTips(BOOL enable)
         return TRUE;
     if (state->m_pLastHit == this)
         CancelToolTips(TRUE);
-    if (::GetWindow(state->m_pToolTip->GetSafeHwnd(), GW_OWNER) == m_hWnd)
+    // The system destroys owned windows first: the tip of a window that ends has no handle any more.
+    const HWND tip = state->m_pToolTip->GetSafeHwnd();
+    if (tip == nullptr || ::GetWindow(tip, GW_OWNER) == m_hWnd)
     {
         delete state->m_pToolTip;
         state->m_pToolTip = nullptr;
