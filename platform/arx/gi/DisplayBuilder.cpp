@@ -22,8 +22,9 @@ DisplayColor Foreground()
 
 } // namespace
 
-DisplayBuilder::DisplayBuilder(DisplayList& list, AcDbDatabase& database)
-    : m_list(list), m_database(database), m_layerZero(database.layerZero())
+DisplayBuilder::DisplayBuilder(DisplayList& list, AcDbDatabase& database, double tolerance, size_t maxPoints)
+    : m_list(list), m_database(database), m_tolerance(tolerance), m_maxPoints(maxPoints),
+      m_layerZero(database.layerZero())
 {
     m_contexts.push_back({m_layerZero, Foreground()});
 }
@@ -178,7 +179,7 @@ void DisplayBuilder::AppendFlat(const Path& path)
     // Mapped first, so that the chords suit the size that shows.
     Path mapped = path;
     mapped.Transform(Transform());
-    for (const AcGePoint3d& point : mapped.Flatten(m_list.m_tolerance))
+    for (const AcGePoint3d& point : mapped.Flatten(m_tolerance))
     {
         m_list.m_points.push_back({point.x, point.y});
     }
@@ -204,7 +205,7 @@ void DisplayBuilder::Finish(DisplayPrimitive primitive)
     primitive.loopCount = m_list.m_loopEnds.size() - primitive.firstLoop;
     m_list.m_primitives.push_back(primitive);
     m_list.m_items.back().box.Add(box);
-    m_list.m_truncated = m_list.m_points.size() >= DisplayList::kMaxPoints;
+    m_list.m_truncated = m_list.m_points.size() >= m_maxPoints;
 }
 
 } // namespace arxgi

@@ -17,7 +17,8 @@ namespace arxgi
 class DisplayBuilder : public BlockWalker
 {
 public:
-    DisplayBuilder(DisplayList& list, AcDbDatabase& database);
+    // Chords deviate at most by `tolerance`. Beyond `maxPoints` the list is truncated.
+    DisplayBuilder(DisplayList& list, AcDbDatabase& database, double tolerance, size_t maxPoints);
 
     void Build();
 
@@ -59,6 +60,8 @@ private:
 
     DisplayList& m_list;
     AcDbDatabase& m_database;
+    double m_tolerance;
+    size_t m_maxPoints;
     AcDbObjectId m_layerZero;
     std::map<AcDbObjectId, Layer> m_layers;
     std::vector<Context> m_contexts; // the last is that of the entity being walked

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 
 namespace arxgi
 {
@@ -15,13 +16,40 @@ namespace
 // A deviation of a quarter pixel does not show.
 constexpr double kTolerancePixels = 0.25;
 
+// Near a drawing of many circles their chords would fill the memory: then the whole drawing less smooth is better than
+// a part of it. The number of chords goes with the root of the tolerance.
+constexpr int kAttempts = 3;
+constexpr double kCoarser = 64;
+
 } // namespace
 
-void DisplayList::Build(AcDbDatabase& database, double unitsPerPixel)
+void DisplayList::Build(AcDbDatabase& database, double unitsPerPixel, size_t maxPoints)
+{
+    const double asked = unitsPerPixel * kTolerancePixels;
+    double tolerance = asked;
+    for (int attempt = 0; attempt < kAttempts; ++attempt, tolerance *= kCoarser)
+    {
+        BuildAt(database, tolerance, maxPoints);
+        if (!m_truncated)
+        {
+            break;
+        }
+    }
+    m_tolerance = asked;
+}
+
+void DisplayList::BuildAt(AcDbDatabase& database, double tolerance, size_t maxPoints)
 {
     Clear();
-    m_tolerance = unitsPerPixel * kTolerancePixels;
-    DisplayBuilder(*this, database).Build();
+    try
+    {
+        DisplayBuilder(*this, database, tolerance, maxPoints).Build();
+    }
+    catch (const std::bad_alloc&)
+    {
+        Clear();
+        m_truncated = true;
+    }
 }
 
 void DisplayList::Clear()

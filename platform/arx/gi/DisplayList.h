@@ -90,12 +90,13 @@ struct DisplayItem
 class ARX_API DisplayList
 {
 public:
-    // Highest number of points that a list takes; a drawing with more is cut there, see isTruncated().
-    static const size_t kMaxPoints = 40000000;
+    // Enough for drawings of a million entities.
+    static constexpr size_t kMaxPoints = 10000000;
 
     // Replaces the contents by the drawing's. Chords deviate by at most a quarter of `unitsPerPixel` (greater than 0)
-    // from their curve. Entities that someone has open for writing are left out.
-    void Build(AcDbDatabase& database, double unitsPerPixel);
+    // from their curve, or by more where the list would get larger than `maxPoints`. Entities that someone has open for
+    // writing are left out.
+    void Build(AcDbDatabase& database, double unitsPerPixel, size_t maxPoints = kMaxPoints);
     void Clear();
 
     const std::vector<DisplayItem>& items() const { return m_items; }
@@ -106,7 +107,9 @@ public:
     const std::vector<std::wstring>& texts() const { return m_texts; }
     // Box around all items; empty for an empty drawing.
     const Box2& box() const { return m_box; }
+    // How far chords were asked to deviate at most.
     double chordTolerance() const { return m_tolerance; }
+    // True when the drawing has more than the list could take: the list shows a part of it only.
     bool isTruncated() const { return m_truncated; }
 
     // The entity nearest to the point, if it is not farther than `distance`; null otherwise. Among equally near ones
@@ -120,6 +123,7 @@ public:
 private:
     friend class DisplayBuilder;
 
+    void BuildAt(AcDbDatabase& database, double tolerance, size_t maxPoints);
     double DistanceTo(const DisplayItem& item, const Point2& point) const;
     bool Touches(const DisplayItem& item, const Box2& window) const;
 

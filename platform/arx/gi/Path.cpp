@@ -16,8 +16,8 @@ constexpr double kTwoPi = 2 * kPi;
 
 // Chords of an arc: at least so many for a full turn, that small circles still look round, and never more than the
 // second number, however near the viewer comes.
-constexpr double kMinChordsPerTurn = 16;
-constexpr double kMaxChords = 20000;
+constexpr double kMinChordsPerTurn = 8;
+constexpr double kMaxChords = 4000;
 
 int ChordCount(const Arc& arc, double tolerance)
 {

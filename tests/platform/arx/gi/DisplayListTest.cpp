@@ -270,3 +270,33 @@ TEST_F(DisplayListTest, EntityOpenForWritingIsLeftOut)
     AcDbObjectPointer<AcDbLine> writer(id, AcDb::kForWrite);
     EXPECT_EQ(Build().items().size(), 1u);
 }
+
+TEST_F(DisplayListTest, DrawingBeyondTheLimitIsCutAndSaysSo)
+{
+    for (int i = 0; i < 10; ++i)
+    {
+        AddLine(0, 0, i, 1);
+    }
+    DisplayList list;
+    list.Build(m_database, 1, 21);
+    EXPECT_FALSE(list.isTruncated());
+    EXPECT_EQ(list.items().size(), 10u);
+    list.Build(m_database, 1, 8);
+    EXPECT_TRUE(list.isTruncated());
+    EXPECT_EQ(list.items().size(), 4u);
+}
+
+TEST_F(DisplayListTest, NearManyCirclesTheWholeDrawingIsShownLessSmooth)
+{
+    constexpr Adesk::UInt16 kMany = 10;
+    const AcDbObjectId block = AddBlock(L"Block");
+    AddTo(block, new AcDbCircle(AcGePoint3d(0, 0, 0), AcGeVector3d::kZAxis, 1000));
+    Add(new AcDbMInsertBlock(AcGePoint3d(0, 0, 0), block, kMany, kMany, 1, 1));
+    DisplayList smooth, bounded;
+    smooth.Build(m_database, 0.01);
+    bounded.Build(m_database, 0.01, smooth.points().size() / 2);
+    EXPECT_FALSE(bounded.isTruncated());
+    EXPECT_LT(bounded.points().size(), smooth.points().size() / 2);
+    EXPECT_EQ(bounded.primitives().size(), static_cast<size_t>(kMany) * kMany);
+    EXPECT_EQ(bounded.chordTolerance(), smooth.chordTolerance());
+}
