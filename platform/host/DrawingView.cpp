@@ -1,8 +1,10 @@
-#include "host/DrawingView.h"
+﻿#include "host/DrawingView.h"
 
 #include "arx/ui/GdiGuards.h"
 #include "host/DrawingPainter.h"
 #include "host/MainFrame.h"
+
+#include <acutads.h>
 
 #include <algorithm>
 #include <cmath>
@@ -50,7 +52,10 @@ const arxgi::DisplayList& DrawingView::List()
     const double wanted = Transform().UnitsPerPixel();
     if (m_listIsOld || m_list.chordTolerance() > wanted * tolerancePerUnit * refineAt)
     {
+        const bool wasCut = m_list.isTruncated();
         m_list.Build(*m_drawing->database(), wanted);
+        if (m_list.isTruncated() && !wasCut)
+            acutPrintf(L"\n图形过大，只显示了一部分。\n");
         m_listIsOld = false;
     }
     return m_list;
