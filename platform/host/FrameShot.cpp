@@ -76,9 +76,10 @@ BOOL CALLBACK AddPopup(HWND window, LPARAM search)
 
 BOOL CALLBACK PaintPopup(HWND window, LPARAM owner)
 {
-    const bool isShown = window == reinterpret_cast<HWND>(owner) || GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner);
-    if (isShown && IsWindowVisible(window))
-        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+    const HWND frame = reinterpret_cast<HWND>(owner);
+    const UINT everything = RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME;
+    if ((window == frame || GetWindow(window, GW_OWNER) == frame) && IsWindowVisible(window))
+        RedrawWindow(window, nullptr, nullptr, everything);
     return TRUE;
 }
 

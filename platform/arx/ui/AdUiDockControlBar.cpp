@@ -253,7 +253,11 @@ void CAdUiDockControlBar::OnUpdateCmdUI(CFrameWnd* /*pTarget*/, BOOL /*bDisableI
 
 BOOL CAdUiDockControlBar::DestroyWindow()
 {
+    // The system hides a window before it tells it of its end; the layout has to say what was before.
+    SaveLayout();
+    m_parts->ending = true;
     const BOOL destroyed = CControlBar::DestroyWindow();
+    m_parts->ending = false;
     // The frame outlives its child, so that it isn't destroyed in the middle of the child's own end.
     m_parts->floating.reset();
     return destroyed;
@@ -269,7 +273,8 @@ int CAdUiDockControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CAdUiDockControlBar::OnDestroy()
 {
-    SaveLayout();
+    if (!m_parts->ending)
+        SaveLayout();
     arxui::RemoveDockBar(this);
     m_parts->drag.reset();
     CControlBar::OnDestroy();

@@ -37,6 +37,8 @@ struct DockBarParts
     bool layingOut = false;
     // True while the window changes its parent, which hides and shows it.
     bool reparenting = false;
+    // True while DestroyWindow() runs, which has saved the layout already.
+    bool ending = false;
 };
 
 // The layout of a tool in the application's profile.
