@@ -144,6 +144,19 @@ void CAdUiDockControlBar::OnPaint()
     buffer.Show();
 }
 
+int CAdUiDockControlBar::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message)
+{
+    CPoint point;
+    GetCursorPos(&point);
+    ScreenToClient(&point);
+    if (!IsFloating() || arxui::CaptionPartAt(m_parts->caption, point) == arxui::CaptionPart::None)
+        return CControlBar::OnMouseActivate(pDesktopWnd, nHitTest, message);
+    // Moving or closing a palette is no reason to take the focus from where the user works; and a frame that is activated by
+    // the press loses the mouse capture again where the desktop hands the focus over late.
+    m_parts->floating->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    return MA_NOACTIVATE;
+}
+
 BOOL CAdUiDockControlBar::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {
     CPoint point;

@@ -11,6 +11,9 @@ class PaletteDrag : public PaletteFixture
 protected:
     void SetUp() override
     {
+        // Two tests that press the same pixel would make a double click.
+        static int tests = 0;
+        m_titleOffset = 40 + 12 * (++tests % 10);
         MakeSet();
         Show();
         ASSERT_TRUE(BringToFront());
@@ -18,7 +21,7 @@ protected:
     }
 
     // A point of the caption's title.
-    CPoint Title() const { return SetRect().TopLeft() + CSize(60, 10); }
+    CPoint Title() const { return SetRect().TopLeft() + CSize(m_titleOffset, 10); }
     // The middle of the close button at the right end.
     CPoint CloseButton() const { return CPoint(SetRect().right - (m_set->IsFloating() ? 10 : 14), SetRect().top + 11); }
 
@@ -46,6 +49,9 @@ protected:
         MouseButton(false);
         ASSERT_TRUE(WaitFor([] { return ::GetCapture() == NULL; }));
     }
+
+private:
+    int m_titleOffset = 0;
 };
 
 } // namespace
