@@ -30,6 +30,23 @@ AcDbObjectId AddLayerZero(AcDbDatabase& database)
     return added;
 }
 
+// An entity that somebody has open for writing is read as it stands.
+void AddShownExtents(AcDbObjectId id, AcDbExtents& box)
+{
+    const arxdb::ObjectRecord* record = ObjectStore::Instance().Find(id);
+    const AcDbEntity* entity = record == nullptr ? nullptr : AcDbEntity::cast(record->object);
+    if (entity == nullptr || !arxdb::IsShown(*entity))
+    {
+        return;
+    }
+    const AcDbEntityPointer opened(id);
+    AcDbExtents part;
+    if (entity->isReadEnabled() && entity->getGeomExtents(part) == Acad::eOk)
+    {
+        box.addExt(part);
+    }
+}
+
 } // namespace
 
 ACRX_NO_CONS_DEFINE_MEMBERS(AcDbDatabase, AcRxObject)
@@ -200,13 +217,7 @@ AcDbExtents AcDbDatabase::modelExtents() const
     const AcDbObjectIdArray& ids = AcDbBlockTableRecord::cast(space->object)->entityIds();
     for (int i = 0; i < ids.length(); ++i)
     {
-        const arxdb::ObjectRecord* record = ObjectStore::Instance().Find(ids[i]);
-        const AcDbEntity* entity = record == nullptr ? nullptr : AcDbEntity::cast(record->object);
-        AcDbExtents part;
-        if (entity != nullptr && arxdb::IsShown(*entity) && entity->getGeomExtents(part) == Acad::eOk)
-        {
-            box.addExt(part);
-        }
+        AddShownExtents(ids[i], box);
     }
     return box;
 }

@@ -244,6 +244,16 @@ TEST(Database, ExtentsAreThoseOfVisibleEntities)
     EXPECT_DOUBLE_EQ(database.extmin().y, 0);
 }
 
+TEST(Database, ExtentsCountEntitiesThatAreBeingChanged)
+{
+    AcDbDatabase database;
+    const AcDbObjectId id = AddToModelSpace(database, new BoxEntity(0, 0, 1, 1));
+    const AcDbObjectPointer<BoxEntity> entity(id, AcDb::kForWrite);
+    entity->SetBox(AcDbExtents(AcGePoint3d(0, 0, 0), AcGePoint3d(7, 7, 0)));
+    EXPECT_DOUBLE_EQ(database.extmax().x, 7);
+    EXPECT_TRUE(entity->isWriteEnabled());
+}
+
 TEST(Database, KeepsHandlesOfAFile)
 {
     AcDbDatabase database;
