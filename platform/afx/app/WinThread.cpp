@@ -34,7 +34,7 @@ private:
 };
 
 CWinThread* StartThread(CWinThread* thread, int priority, UINT stackSize, DWORD createFlags,
-                           LPSECURITY_ATTRIBUTES security)
+                        LPSECURITY_ATTRIBUTES security)
 {
     if (!thread->CreateThread(createFlags | CREATE_SUSPENDED, stackSize, security))
     {
@@ -57,11 +57,10 @@ void LeaveThread(BOOL deleteObject)
 }
 } // namespace
 
-CWinThread::CWinThread()
-{
-}
+CWinThread::CWinThread() {}
 
-CWinThread::CWinThread(AFX_THREADPROC function, LPVOID parameter) : m_pThreadParams(parameter), m_pfnThreadProc(function)
+CWinThread::CWinThread(AFX_THREADPROC function, LPVOID parameter)
+    : m_pThreadParams(parameter), m_pfnThreadProc(function)
 {
 }
 

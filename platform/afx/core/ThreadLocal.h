@@ -9,7 +9,8 @@
 
 #include "afx/core/Api.h"
 
-template<class OBJECT> class CPerThread
+template<class OBJECT>
+class CPerThread
 {
 public:
     CPerThread() : m_index(::FlsAlloc(&CPerThread::Delete)) {}
@@ -17,7 +18,8 @@ public:
     CPerThread& operator=(const CPerThread&) = delete;
 
     // make gives a new object; it is called at the thread's first use.
-    template<class MAKE> OBJECT& Get(MAKE make)
+    template<class MAKE>
+    OBJECT& Get(MAKE make)
     {
         OBJECT* object = static_cast<OBJECT*>(::FlsGetValue(m_index));
         if (object == nullptr)

@@ -80,13 +80,9 @@ void WaitCursor(int code)
 }
 } // namespace
 
-CCmdTarget::CCmdTarget()
-{
-}
+CCmdTarget::CCmdTarget() {}
 
-CCmdTarget::~CCmdTarget()
-{
-}
+CCmdTarget::~CCmdTarget() {}
 
 const AFX_MSGMAP* PASCAL CCmdTarget::GetThisMessageMap()
 {

@@ -35,13 +35,9 @@ CHandleMap<CWnd, HWND>& AfxWndMap()
     return maps.Get([] { return new CHandleMap<CWnd, HWND>(&MakeTemporary, &LetGo); });
 }
 
-CWnd::CWnd()
-{
-}
+CWnd::CWnd() {}
 
-CWnd::CWnd(HWND window) : m_hWnd(window)
-{
-}
+CWnd::CWnd(HWND window) : m_hWnd(window) {}
 
 // The virtual functions of the derived class are gone by now: a class with an OnDestroy must be destroyed before.
 CWnd::~CWnd()
@@ -165,9 +161,7 @@ BOOL CWnd::DestroyWindow()
     return destroyed;
 }
 
-void CWnd::PreSubclassWindow()
-{
-}
+void CWnd::PreSubclassWindow() {}
 
 WNDPROC* CWnd::GetSuperWndProcAddr()
 {

@@ -67,9 +67,7 @@ bool AddInitialText(CWnd& dialog, int id, WORD message, const char* bytes)
 }
 } // namespace
 
-void CWnd::DoDataExchange(CDataExchange*)
-{
-}
+void CWnd::DoDataExchange(CDataExchange*) {}
 
 BOOL CWnd::UpdateData(BOOL saveAndValidate)
 {

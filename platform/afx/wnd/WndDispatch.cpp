@@ -301,8 +301,7 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
         if (result != nullptr)
             *result = 1;
         return TRUE;
-    case WM_NOTIFY:
-    {
+    case WM_NOTIFY: {
         NMHDR* const header = reinterpret_cast<NMHDR*>(lParam);
         LRESULT ignored = 0;
         AFX_NOTIFY notify = {result == nullptr ? &ignored : result, header};

@@ -97,9 +97,7 @@ void CWnd::OnNcDestroy()
     PostNcDestroy(); // may delete this object
 }
 
-void CWnd::PostNcDestroy()
-{
-}
+void CWnd::PostNcDestroy() {}
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* control, UINT)
 {

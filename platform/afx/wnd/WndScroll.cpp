@@ -99,5 +99,6 @@ void CWnd::ScrollWindow(int dx, int dy, LPCRECT rect, LPCRECT clip)
 
 int CWnd::ScrollWindowEx(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn* update, LPRECT updateRect, UINT flags)
 {
-    return ::ScrollWindowEx(m_hWnd, dx, dy, scroll, clip, static_cast<HRGN>(update->GetSafeHandle()), updateRect, flags);
+    return ::ScrollWindowEx(m_hWnd, dx, dy, scroll, clip, static_cast<HRGN>(update->GetSafeHandle()), updateRect,
+                            flags);
 }

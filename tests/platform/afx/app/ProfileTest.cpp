@@ -96,5 +96,6 @@ TEST_P(Profile, BytesComeBack)
     delete[] read;
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, Profile, ::testing::Bool(),
-                         [](const ::testing::TestParamInfo<bool>& info) { return info.param ? "Registry" : "IniFile"; });
+INSTANTIATE_TEST_SUITE_P(Stores, Profile, ::testing::Bool(), [](const ::testing::TestParamInfo<bool>& info) {
+    return info.param ? "Registry" : "IniFile";
+});

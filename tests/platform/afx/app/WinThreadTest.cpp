@@ -144,8 +144,7 @@ TEST(WinThread, PostedMessagesPassTheFilterThenTheMap)
     g_id = 0;
     g_sum = 0;
     g_filtered = 0;
-    CWinThread* const thread =
-        AfxBeginThread(RUNTIME_CLASS(Worker), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    CWinThread* const thread = AfxBeginThread(RUNTIME_CLASS(Worker), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
     Running running(thread);
     ASSERT_TRUE(WaitUntil(g_id));
     EXPECT_TRUE(thread->PostThreadMessage(WM_ADD, 5, 0));

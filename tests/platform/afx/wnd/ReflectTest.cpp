@@ -231,8 +231,8 @@ TEST(Reflect, ScrollMessagesReachTheControl)
 TEST(Reflect, AControlThatIsNoObjectIsLeftAlone)
 {
     Pair<Parent> pair;
-    const HWND stranger = ::CreateWindow(L"STATIC", L"", WS_CHILD, 0, 0, 5, 5, pair.parent.m_hWnd, HMENU(UINT_PTR(8)),
-                                         nullptr, nullptr);
+    const HWND stranger =
+        ::CreateWindow(L"STATIC", L"", WS_CHILD, 0, 0, 5, 5, pair.parent.m_hWnd, HMENU(UINT_PTR(8)), nullptr, nullptr);
     EXPECT_EQ(0, pair.parent.SendMessage(WM_COMMAND, MAKEWPARAM(8, BN_CLICKED), LPARAM(stranger)));
     EXPECT_EQ("", g_log);
 }
