@@ -88,3 +88,22 @@ TEST(Program, NamesComeFromTheProgram)
     EXPECT_EQ(::GetModuleHandle(nullptr), AfxGetInstanceHandle());
     EXPECT_NE(nullptr, AfxGetApp()->LoadStandardIcon(IDI_APPLICATION));
 }
+
+TEST(Program, TheHourglassLastsUntilTheOutermostEnd)
+{
+    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW);
+    const HCURSOR hourglass = ::LoadCursor(nullptr, IDC_WAIT);
+    ::SetCursor(arrow);
+    {
+        CWaitCursor outer;
+        EXPECT_EQ(hourglass, ::GetCursor());
+        {
+            CWaitCursor inner;
+            ::SetCursor(arrow); // what a message box does
+            inner.Restore();
+            EXPECT_EQ(hourglass, ::GetCursor());
+        }
+        EXPECT_EQ(hourglass, ::GetCursor());
+    }
+    EXPECT_EQ(arrow, ::GetCursor());
+}

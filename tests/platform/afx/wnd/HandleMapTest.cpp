@@ -52,6 +52,23 @@ BEGIN_MESSAGE_MAP(Pinged, CWnd)
     ON_MESSAGE(WM_PING, &Pinged::OnPing)
 END_MESSAGE_MAP()
 
+// Does what a nested loop does in idle time while it holds a temporary object; answers with the object's window.
+class IdleInside : public CWnd
+{
+protected:
+    afx_msg LRESULT OnPing(WPARAM window, LPARAM)
+    {
+        const CWnd* const object = FromHandle(reinterpret_cast<HWND>(window));
+        AfxGetApp()->OnIdle(1);
+        return object == FromHandle(reinterpret_cast<HWND>(window)) ? LRESULT(object->m_hWnd) : 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(IdleInside, CWnd)
+    ON_MESSAGE(WM_PING, &IdleInside::OnPing)
+END_MESSAGE_MAP()
+
 WNDPROC g_below = nullptr;
 int g_plainCalls = 0;
 
@@ -129,6 +146,15 @@ TEST(HandleMap, TemporaryObjectsEndWithTheLastLock)
     EXPECT_EQ(object, CWnd::FromHandle(window.Get())); // still the same one
     EXPECT_EQ(window.Get(), object->m_hWnd);
     EXPECT_FALSE(AfxUnlockTempMaps());
+}
+
+// A handler that opens a message box gets its temporary objects back unharmed.
+TEST(HandleMap, TemporaryObjectsSurviveAnIdleLoopInsideAHandler)
+{
+    const ForeignWindow foreign;
+    IdleInside window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
+    EXPECT_EQ(LRESULT(foreign.Get()), window.SendMessage(WM_PING, WPARAM(foreign.Get())));
 }
 
 TEST(Subclass, TakesTheProcedureOverAndGivesItBack)
