@@ -23,7 +23,9 @@ int CListBox::GetSelItems(int maxItems, LPINT indices) const
 
 int CListBox::SelItemRange(BOOL select, int first, int last)
 {
-    // The extended message: the plain one can't select a single item.
+    // The message selects upwards and clears downwards: it can't clear a single item.
+    if (first == last)
+        return SetSel(first, select);
     return static_cast<int>(select ? ::SendMessage(m_hWnd, LB_SELITEMRANGEEX, first, last)
                                    : ::SendMessage(m_hWnd, LB_SELITEMRANGEEX, last, first));
 }

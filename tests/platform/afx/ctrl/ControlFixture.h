@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "Wait.h"
+
 class ControlFixture : public testing::Test
 {
 protected:
@@ -19,6 +21,18 @@ protected:
                                       CRect(0, 0, 500, 400), nullptr, 0));
     }
     void TearDown() override { m_parent.DestroyWindow(); }
+
+    // Starts to edit a label. The window may still be on its way to the foreground, which would end the edit at once.
+    template <class CONTROL, class ITEM> static bool OpensLabel(CONTROL& control, ITEM item)
+    {
+        return WaitFor(
+            [&control, item]
+            {
+                control.SetFocus();
+                const CEdit* const edit = control.EditLabel(item);
+                return edit != nullptr && edit == control.GetEditControl();
+            });
+    }
 
     static constexpr DWORD Visible = WS_CHILD | WS_VISIBLE;
 

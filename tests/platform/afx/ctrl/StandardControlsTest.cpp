@@ -229,8 +229,8 @@ TEST_F(StandardControls, AnOwnerDrawnListBoxMeasuresComparesDrawsAndDeletes)
     EXPECT_EQ(DrawnListBox::Height, list.GetItemHeight(0));
     list.RedrawWindow();
     EXPECT_GE(list.m_draws, 3);
-    list.SendMessage(WM_KEYDOWN, VK_END);
-    EXPECT_EQ(1, list.GetCurSel());
+    EXPECT_EQ(1, m_parent.SendMessage(WM_VKEYTOITEM, MAKEWPARAM(VK_END, 0), LPARAM(list.m_hWnd)));
+    EXPECT_EQ(-1, m_parent.SendMessage(WM_VKEYTOITEM, MAKEWPARAM(VK_HOME, 0), LPARAM(list.m_hWnd)));
     list.DeleteString(0);
     EXPECT_EQ(1, list.m_deletes);
 }

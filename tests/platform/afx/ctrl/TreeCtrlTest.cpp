@@ -102,8 +102,16 @@ TEST_F(TreeCtrl, SelectionAndExpansion)
     EXPECT_EQ(m_first, m_tree.GetNextVisibleItem(m_root));
     EXPECT_TRUE(m_tree.Expand(m_root, TVE_COLLAPSE));
     EXPECT_FALSE(m_tree.GetItemState(m_root, TVIS_EXPANDED));
-    EXPECT_TRUE(m_tree.SelectDropTarget(m_root));
-    EXPECT_EQ(m_root, m_tree.GetDropHilightItem());
+}
+
+TEST_F(TreeCtrl, TheDropTargetIsAnotherItemThanTheSelection)
+{
+    m_tree.SelectItem(m_root);
+    EXPECT_TRUE(m_tree.SelectDropTarget(m_first));
+    EXPECT_EQ(m_first, m_tree.GetDropHilightItem());
+    EXPECT_EQ(m_root, m_tree.GetSelectedItem());
+    m_tree.SelectDropTarget(nullptr);
+    EXPECT_EQ(nullptr, m_tree.GetDropHilightItem());
 }
 
 TEST_F(TreeCtrl, ItemsLieWhereHitTestsFindThem)
@@ -150,11 +158,11 @@ TEST_F(TreeCtrl, LookComesBack)
 
 TEST_F(TreeCtrl, ALabelIsEditedInAnEdit)
 {
-    m_tree.SetFocus();
-    CEdit* const edit = m_tree.EditLabel(m_root);
-    ASSERT_NE(nullptr, edit);
-    EXPECT_EQ(edit->m_hWnd, m_tree.GetEditControl()->m_hWnd);
-    edit->SetWindowText(L"renamed");
+    ASSERT_TRUE(OpensLabel(m_tree, m_root));
+    CString text;
+    m_tree.GetEditControl()->GetWindowText(text);
+    EXPECT_STREQ(L"root", text);
+    m_tree.GetEditControl()->SetWindowText(L"renamed");
     EXPECT_TRUE(m_tree.EndEditLabelNow(TRUE));
     EXPECT_EQ(nullptr, m_tree.GetEditControl());
     EXPECT_STREQ(L"root", m_tree.GetItemText(m_root));
