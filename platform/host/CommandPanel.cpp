@@ -65,6 +65,8 @@ bool CommandPanel::Create(CFrameWnd& frame)
 void CommandPanel::Print(const std::wstring& text)
 {
     WriteStandardOutput(text);
+    if (!text.empty())
+        m_atLineStart = text.back() == L'\n';
     if (m_history.GetSafeHwnd() == NULL)
         return;
     if (m_history.GetWindowTextLength() > historyLimit)
@@ -75,6 +77,11 @@ void CommandPanel::Print(const std::wstring& text)
     const int end = m_history.GetWindowTextLength();
     m_history.SetSel(end, end);
     m_history.ReplaceSel(WithReturns(text).c_str());
+}
+
+void CommandPanel::PrintLine(const std::wstring& text)
+{
+    Print((m_atLineStart ? L"" : L"\n") + text + L"\n");
 }
 
 CString CommandPanel::HistoryText() const

@@ -22,6 +22,8 @@ public:
 
     // Appends text; line ends are \n. It also goes to the program's standard output, so that scripts can be followed.
     void Print(const std::wstring& text);
+    // Prints a line of its own, whatever stands before it.
+    void PrintLine(const std::wstring& text);
     // The text of the history, lines ending in \r\n.
     CString HistoryText() const;
     void TypeInto(wchar_t character);
@@ -52,6 +54,7 @@ private:
     CStatic m_promptLabel;
     CommandEdit m_input;
     CBrush m_paper;
+    bool m_atLineStart = true;
     bool m_asking = false;
     bool m_givenUp = false;
     std::wstring m_answer;

@@ -111,7 +111,7 @@ void MainFrame::Fail(const std::wstring& message)
 
 bool MainFrame::Run(const std::wstring& line)
 {
-    m_command.Print(L"命令：" + line + L"\n");
+    m_command.PrintLine(L"命令：" + line);
     try
     {
         RunCommandLine(*this, line);
@@ -291,7 +291,7 @@ void MainFrame::OnWindowCommand(UINT id)
 
 void MainFrame::ShowFailure(const std::wstring& message)
 {
-    m_command.Print(L"错误：" + message + L"\n");
+    m_command.PrintLine(L"错误：" + message);
 }
 
 } // namespace arxhost

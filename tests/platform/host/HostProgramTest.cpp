@@ -1,0 +1,118 @@
+// The host as a program: scripts, exit codes, pictures.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <string>
+
+namespace
+{
+
+const DWORD patience = 60000; // milliseconds
+const DWORD noCode = 0xFFFFFFFF;
+
+std::wstring TemporaryPath(const wchar_t* name)
+{
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(MAX_PATH, folder);
+    return std::wstring(folder) + name;
+}
+
+std::string Narrow(const std::wstring& text)
+{
+    return std::string(text.begin(), text.end());
+}
+
+void WriteText(const std::wstring& path, const std::string& text)
+{
+    std::ofstream(Narrow(path), std::ios::binary) << text;
+}
+
+std::string ReadStart(const std::wstring& path)
+{
+    std::string bytes(8, '\0');
+    std::ifstream file(Narrow(path), std::ios::binary);
+    file.read(&bytes[0], static_cast<std::streamsize>(bytes.size()));
+    return bytes;
+}
+
+// Runs the host to its end and returns its exit code; noCode when it doesn't start or doesn't end.
+DWORD RunHost(const std::wstring& arguments)
+{
+    std::wstring line = L"arxhost.exe " + arguments;
+    STARTUPINFOW start{};
+    start.cb = sizeof(start);
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(L"arxhost.exe", &line[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process))
+        return noCode;
+    DWORD code = noCode;
+    if (WaitForSingleObject(process.hProcess, patience) == WAIT_OBJECT_0)
+        GetExitCodeProcess(process.hProcess, &code);
+    else
+        TerminateProcess(process.hProcess, noCode);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+DWORD RunScript(const std::wstring& drawing, const std::string& script)
+{
+    const std::wstring path = TemporaryPath(L"host_program_test.scr");
+    WriteText(path, script);
+    const DWORD code = RunHost(drawing + L" /b \"" + path + L"\"");
+    DeleteFileW(path.c_str());
+    return code;
+}
+
+// A drawing of one line.
+std::wstring WriteDrawing()
+{
+    const std::wstring path = TemporaryPath(L"host_program_test.dxf");
+    WriteText(path, "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n100\n21\n50\n0\nENDSEC\n0\nEOF\n");
+    return path;
+}
+
+} // namespace
+
+TEST(HostProgram, ScriptTakesAPictureAndEndsWithZero)
+{
+    const std::wstring drawing = WriteDrawing();
+    const std::wstring picture = TemporaryPath(L"host_program_test.png");
+    DeleteFileW(picture.c_str());
+    const std::string script = "ZOOM E\nSELECT ALL\nSHOT \"" + Narrow(picture) + "\"\n";
+    EXPECT_EQ(0u, RunScript(L"\"" + drawing + L"\"", script));
+    EXPECT_EQ("\x89PNG\r\n\x1A\n", ReadStart(picture));
+    DeleteFileW(picture.c_str());
+    DeleteFileW(drawing.c_str());
+}
+
+TEST(HostProgram, CommandThatFailsEndsTheScriptWithOne)
+{
+    EXPECT_EQ(1u, RunScript(L"", "NEW\nNOSUCHCOMMAND\n"));
+    EXPECT_EQ(1u, RunScript(L"", "PALETTE DOCK LEFT\n")) << "there is no palette";
+    EXPECT_EQ(1u, RunScript(L"", "ZOOM sideways\n"));
+}
+
+TEST(HostProgram, DrawingThatCannotBeReadEndsWithOne)
+{
+    const std::wstring drawing = TemporaryPath(L"host_program_broken.dxf");
+    WriteText(drawing, "this is no drawing\n");
+    EXPECT_EQ(1u, RunScript(L"\"" + drawing + L"\"", "ZOOM E\n"));
+    DeleteFileW(drawing.c_str());
+}
+
+TEST(HostProgram, MissingModuleEndsWithOne)
+{
+    EXPECT_EQ(1u, RunScript(L"/ld no_such_module.arx", "ZOOM E\n"));
+}
+
+TEST(HostProgram, ArgumentThatMakesNoSenseEndsWithOne)
+{
+    EXPECT_EQ(1u, RunHost(L"/unknown"));
+}
+
+TEST(HostProgram, QuitEndsAScriptEarly)
+{
+    EXPECT_EQ(0u, RunScript(L"", "QUIT\nNOSUCHCOMMAND\n"));
+}
