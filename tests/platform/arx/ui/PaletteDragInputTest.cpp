@@ -28,6 +28,12 @@ protected:
     void Press(CPoint point)
     {
         MoveMouse(point);
+        // The desktop brings windows and cursor into place in its own time.
+        ASSERT_TRUE(WaitFor([this, point] {
+            CPoint now;
+            ::GetCursorPos(&now);
+            return now == point && ::WindowFromPoint(point) == m_set->m_hWnd;
+        }));
         MouseButton(true);
         ASSERT_TRUE(WaitFor([this] { return ::GetCapture() == m_set->m_hWnd; }));
     }
