@@ -33,7 +33,8 @@ BareMessageList::BareMessageList(HWND model, int rows)
     ::GetClientRect(model, &area);
     const HWND owner = ::GetAncestor(model, GA_ROOT);
     const DWORD style = static_cast<DWORD>(::GetWindowLongPtrW(model, GWL_STYLE));
-    m_list = ::CreateWindowExW(0, WC_LISTVIEWW, L"", style, 0, 0, area.right, area.bottom, ::GetParent(model) != NULL ? ::GetParent(model) : owner, NULL, NULL, NULL);
+    m_list = ::CreateWindowExW(0, WC_LISTVIEWW, L"", style, 0, 0, area.right, area.bottom,
+                               ::GetParent(model) != NULL ? ::GetParent(model) : owner, NULL, NULL, NULL);
     ListView_SetExtendedListViewStyle(m_list, ListView_GetExtendedListViewStyle(model));
     // The model keeps its images: without the share style each list would destroy them.
     ::SetWindowLongPtrW(m_list, GWL_STYLE, ::GetWindowLongPtrW(m_list, GWL_STYLE) | LVS_SHAREIMAGELISTS);

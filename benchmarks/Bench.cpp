@@ -105,10 +105,10 @@ bool Report::WriteJson(const std::string& path) const
     for (std::size_t i = 0; i < m_figures.size(); ++i)
     {
         const Figure& figure = m_figures[i];
-        out << "  {\"name\": \"" << figure.name << "\", \"unit\": \"" << figure.unit << "\", \"value\": " << figure.value
-            << ", \"beside\": \"" << figure.beside << "\", \"reference\": " << figure.reference
-            << ", \"ratio\": " << Ratio(figure) << ", \"limit\": " << figure.limit << "}"
-            << (i + 1 < m_figures.size() ? "," : "") << "\n";
+        out << "  {\"name\": \"" << figure.name << "\", \"unit\": \"" << figure.unit
+            << "\", \"value\": " << figure.value << ", \"beside\": \"" << figure.beside
+            << "\", \"reference\": " << figure.reference << ", \"ratio\": " << Ratio(figure)
+            << ", \"limit\": " << figure.limit << "}" << (i + 1 < m_figures.size() ? "," : "") << "\n";
     }
     out << "]\n";
     return static_cast<bool>(out.flush());

@@ -1,5 +1,5 @@
-// Measuring beside bare Win32: every figure is the median of several runs after a warm-up, printed with the same work done
-// without this library in the same process, and their ratio.
+// Measuring beside bare Win32: every figure is the median of several runs after a warm-up, printed with the same work
+// done without this library in the same process, and their ratio.
 #pragma once
 
 #include <functional>

@@ -52,7 +52,9 @@ double SecondsForAdding(int held, int count)
 {
     KTMsgWnd::RemoveAllMsg();
     AddMessages(held);
-    return MedianSeconds(1, nullptr, [count] { AddMessages(count); }, nullptr) / count;
+    return MedianSeconds(
+               1, nullptr, [count] { AddMessages(count); }, nullptr) /
+           count;
 }
 
 void MeasureAdding(Report& report)
@@ -106,12 +108,15 @@ void MeasureCounting(Report& report)
     std::vector<std::wstring> walked;
     for (int index = 0; index < kMillion; ++index)
         walked.push_back(g_groups[index % kGroups]);
-    const double walk = MedianSeconds(1, nullptr, [&] { CountByWalking(walked, g_groups[0].c_str()); }, nullptr);
+    const double walk = MedianSeconds(
+        1, nullptr, [&] { CountByWalking(walked, g_groups[0].c_str()); }, nullptr);
     KTMsgWnd::RemoveAllMsg();
     AddMessages(kThousand);
     const double few = MedianSeconds(kRuns, nullptr, countAll, nullptr) / lookups;
-    report.Add({"GetMsgCount in 1,000,000 messages", "ns", full * kNanoseconds, few * kNanoseconds, 2, "GetMsgCount in 1,000 messages"});
-    report.Add({"GetMsgCount in 1,000,000 messages, beside a walk", "ns", full * kNanoseconds, walk * kNanoseconds, 0.01, "a walk over 1,000,000 names"});
+    report.Add({"GetMsgCount in 1,000,000 messages", "ns", full * kNanoseconds, few * kNanoseconds, 2,
+                "GetMsgCount in 1,000 messages"});
+    report.Add({"GetMsgCount in 1,000,000 messages, beside a walk", "ns", full * kNanoseconds, walk * kNanoseconds,
+                0.01, "a walk over 1,000,000 names"});
 }
 
 double SecondsForRemoving(int held)
@@ -127,7 +132,8 @@ void MeasureRemoving(Report& report)
     const double full = SecondsForRemoving(kMillion);
     const double part = SecondsForRemoving(tenth);
     // Ten times the messages: linear work has a ratio of ten, quadratic work one of a hundred.
-    report.Add({"RemoveMsg of a group in 1,000,000 messages", "ms", full * kMilliseconds, part * kMilliseconds, 15, "the same in 100,000 messages"});
+    report.Add({"RemoveMsg of a group in 1,000,000 messages", "ms", full * kMilliseconds, part * kMilliseconds, 15,
+                "the same in 100,000 messages"});
 }
 
 } // namespace

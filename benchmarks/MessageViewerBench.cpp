@@ -62,7 +62,8 @@ void FillStore(int count)
     {
         // Multiplying by a number without a common divisor scatters the texts, so that sorting has work to do.
         const std::wstring text = L"第 " + std::to_wstring(index * 7919LL % kRows) + L" 处：端点没有相接";
-        KTMsgWnd::AddMsg(static_cast<KTMsgWnd::EMsgType>(index % 3), index % 2 ? L"端点检查" : L"图层检查", text.c_str(), false, nullptr, nullptr);
+        KTMsgWnd::AddMsg(static_cast<KTMsgWnd::EMsgType>(index % 3), index % 2 ? L"端点检查" : L"图层检查",
+                         text.c_str(), false, nullptr, nullptr);
     }
 }
 
@@ -89,8 +90,8 @@ void MeasureRefresh(Report& report, BareMessageList& bare)
     const Work ours = {nullptr, [] { KTMsgWnd::UpdateMsgWnd(); }, nullptr};
     const Work theirs = {nullptr, [&] { bare.Fill(); }, nullptr};
     const Pair pair = MedianSeconds(kRuns, ours, theirs);
-    report.Add({"viewer: full refresh of 100,000 messages", "ms", pair.ours * kMilliseconds, pair.bare * kMilliseconds, 1.3,
-                "bare list view, same rows, redraw off"});
+    report.Add({"viewer: full refresh of 100,000 messages", "ms", pair.ours * kMilliseconds, pair.bare * kMilliseconds,
+                1.3, "bare list view, same rows, redraw off"});
 }
 
 void MeasureSort(Report& report, BareMessageList& bare, HWND list, int column, const char* name)
@@ -98,7 +99,8 @@ void MeasureSort(Report& report, BareMessageList& bare, HWND list, int column, c
     const Work ours = {[] { KTMsgWnd::UpdateMsgWnd(); }, [&] { ClickHeader(list, column); }, nullptr};
     const Work theirs = {[&] { bare.Fill(); }, [&] { bare.Sort(column); }, nullptr};
     const Pair pair = MedianSeconds(kRuns, ours, theirs);
-    report.Add({name, "ms", pair.ours * kMilliseconds, pair.bare * kMilliseconds, 1.3, "bare list view, keys fetched once"});
+    report.Add(
+        {name, "ms", pair.ours * kMilliseconds, pair.bare * kMilliseconds, 1.3, "bare list view, keys fetched once"});
 }
 
 double SecondsForDeleting(HWND list, int count)
@@ -108,7 +110,9 @@ double SecondsForDeleting(HWND list, int count)
         KTMsgWnd::UpdateMsgWnd();
         SelectFirst(list, count);
     };
-    const auto press = [=] { ::SendMessageW(::GetParent(list), WM_COMMAND, MAKEWPARAM(kDeleteSelected, BN_CLICKED), 0); };
+    const auto press = [=] {
+        ::SendMessageW(::GetParent(list), WM_COMMAND, MAKEWPARAM(kDeleteSelected, BN_CLICKED), 0);
+    };
     return MedianSeconds(1, prepare, press, nullptr);
 }
 
@@ -119,7 +123,8 @@ void MeasureDeleting(Report& report, HWND list)
     const double full = SecondsForDeleting(list, many);
     const double part = SecondsForDeleting(list, few);
     // Four times the rows: linear work has a ratio of four, quadratic work one of sixteen.
-    report.Add({"viewer: deleting 10,000 selected of 20,000 rows", "ms", full * kMilliseconds, part * kMilliseconds, 6, "deleting 2,500 of 5,000 rows"});
+    report.Add({"viewer: deleting 10,000 selected of 20,000 rows", "ms", full * kMilliseconds, part * kMilliseconds, 6,
+                "deleting 2,500 of 5,000 rows"});
 }
 
 } // namespace

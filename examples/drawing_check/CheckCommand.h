@@ -1,4 +1,4 @@
-// The command CHECKDRAWING (检查图形): checks the current drawing and reports into the message palette.
+﻿// The command CHECKDRAWING (检查图形): checks the current drawing and reports into the message palette.
 #pragma once
 
 namespace drawing_check

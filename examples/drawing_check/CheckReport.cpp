@@ -143,7 +143,8 @@ int ReportFlatTexts(const Drawing& drawing)
 {
     for (std::size_t object : drawing.flatTexts)
     {
-        AddMessage(KTMsgWnd::eError, group::kFlatTexts, L"文字的高度为零，图上看不见", IdsOf(drawing, {object}), nullptr);
+        AddMessage(KTMsgWnd::eError, group::kFlatTexts, L"文字的高度为零，图上看不见", IdsOf(drawing, {object}),
+                   nullptr);
     }
     return static_cast<int>(drawing.flatTexts.size());
 }
@@ -170,8 +171,7 @@ int ReportMissing(const Drawing& drawing)
 {
     for (const MissingReference& reference : drawing.missing)
     {
-        AddMessage(KTMsgWnd::eError, group::kMissing,
-                   L"引用的" + reference.what + L"“" + reference.name + L"”不存在",
+        AddMessage(KTMsgWnd::eError, group::kMissing, L"引用的" + reference.what + L"“" + reference.name + L"”不存在",
                    IdsOf(drawing, {reference.object}), nullptr);
     }
     return static_cast<int>(drawing.missing.size());

@@ -29,7 +29,7 @@ public:
     }
 
     // Calls visit(index) for every end that may be closer to `point` than the cell's side, until visit answers false.
-    template <typename Visitor>
+    template<typename Visitor>
     void VisitNear(Point point, Visitor visit) const
     {
         const Cell centre = CellOf(point);
@@ -73,7 +73,7 @@ private:
 
     Cell CellOf(Point point) const { return {Index(point.x), Index(point.y)}; }
 
-    template <typename Visitor>
+    template<typename Visitor>
     bool VisitCell(const Cell& cell, Visitor visit) const
     {
         const auto found = m_cells.find(cell);

@@ -21,9 +21,11 @@ struct Closer
     void operator()(AcDbObject* object) const { object->close(); }
 };
 
-template<class OBJECT> using Opened = std::unique_ptr<OBJECT, Closer>;
+template<class OBJECT>
+using Opened = std::unique_ptr<OBJECT, Closer>;
 
-template<class OBJECT> Opened<OBJECT> Open(AcDbObjectId id)
+template<class OBJECT>
+Opened<OBJECT> Open(AcDbObjectId id)
 {
     OBJECT* object = nullptr;
     acdbOpenObject(object, id, AcDb::kForRead);

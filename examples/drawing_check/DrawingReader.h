@@ -1,4 +1,4 @@
-// Reads a drawing's model space into the plain records that the checks work on.
+﻿// Reads a drawing's model space into the plain records that the checks work on.
 #pragma once
 
 #include "Checks.h"

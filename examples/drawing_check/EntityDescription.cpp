@@ -84,7 +84,11 @@ bool AddCurve(Description& description, const AcDbEntity& entity)
     else if (const AcDbCircle* circle = AcDbCircle::cast(&entity))
         description.Add(circle->center()).Add(circle->radius()).Add(circle->normal());
     else if (const AcDbArc* arc = AcDbArc::cast(&entity))
-        description.Add(arc->center()).Add(arc->radius()).Add(arc->startAngle()).Add(arc->endAngle()).Add(arc->normal());
+        description.Add(arc->center())
+            .Add(arc->radius())
+            .Add(arc->startAngle())
+            .Add(arc->endAngle())
+            .Add(arc->normal());
     else if (const AcDbPolyline* polyline = AcDbPolyline::cast(&entity))
         AddPolyline(description, *polyline);
     else

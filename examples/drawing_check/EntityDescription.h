@@ -8,7 +8,8 @@
 namespace drawing_check
 {
 
-// Equal texts mean exact duplicates. An entity of a class that the check does not know gets a text of its own, so that it is never called a duplicate.
+// Equal texts mean exact duplicates. An entity of a class that the check does not know gets a text of its own, so that
+// it is never called a duplicate.
 std::string Describe(const AcDbEntity& entity);
 
 } // namespace drawing_check

@@ -1,4 +1,4 @@
-#include "host/CommandLine.h"
+﻿#include "host/CommandLine.h"
 
 #include <cwctype>
 

@@ -54,7 +54,8 @@ bool CommandPanel::Create(CFrameWnd& frame)
     m_history.Create(history, CRect(0, 0, 0, 0), this, historyId);
     m_promptLabel.Create(commandPrompt, WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE, CRect(0, 0, 0, 0), this, promptId);
     m_input.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 0, 0), this, inputId);
-    for (CWnd* control : {static_cast<CWnd*>(&m_history), static_cast<CWnd*>(&m_promptLabel), static_cast<CWnd*>(&m_input)})
+    for (CWnd* control :
+         {static_cast<CWnd*>(&m_history), static_cast<CWnd*>(&m_promptLabel), static_cast<CWnd*>(&m_input)})
         control->SendMessage(WM_SETFONT, WPARAM(arxui::FixedFont()));
     m_history.SetLimitText(0);
     m_input.onEnter = [this](const std::wstring& line) { Entered(line); };
@@ -131,9 +132,7 @@ CSize CommandPanel::CalcFixedLayout(BOOL /*stretch*/, BOOL /*horizontal*/)
     return CSize(unlimited, panelHeight);
 }
 
-void CommandPanel::OnUpdateCmdUI(CFrameWnd* /*target*/, BOOL /*disableIfNoHandler*/)
-{
-}
+void CommandPanel::OnUpdateCmdUI(CFrameWnd* /*target*/, BOOL /*disableIfNoHandler*/) {}
 
 void CommandPanel::OnSize(UINT type, int cx, int cy)
 {
@@ -147,7 +146,8 @@ BOOL CommandPanel::OnEraseBkgnd(CDC* dc)
     GetClientRect(&client);
     arxui::FillColour(dc->GetSafeHdc(), client, arxui::colours::tabActive);
     arxui::FillColour(dc->GetSafeHdc(), CRect(0, 0, client.right, 1), arxui::colours::border);
-    arxui::FillColour(dc->GetSafeHdc(), CRect(0, client.bottom - inputHeight, client.right, client.bottom - inputHeight + 1),
+    arxui::FillColour(dc->GetSafeHdc(),
+                      CRect(0, client.bottom - inputHeight, client.right, client.bottom - inputHeight + 1),
                       arxui::colours::border);
     return TRUE;
 }

@@ -57,9 +57,7 @@ CSize DocumentTabs::CalcFixedLayout(BOOL /*stretch*/, BOOL /*horizontal*/)
     return CSize(unlimited, stripHeight);
 }
 
-void DocumentTabs::OnUpdateCmdUI(CFrameWnd* /*target*/, BOOL /*disableIfNoHandler*/)
-{
-}
+void DocumentTabs::OnUpdateCmdUI(CFrameWnd* /*target*/, BOOL /*disableIfNoHandler*/) {}
 
 void DocumentTabs::OnSize(UINT type, int cx, int cy)
 {

@@ -146,9 +146,12 @@ void EraseObjects(MainFrame& frame, const Words& words)
 std::vector<HostCommand> DrawingCommands()
 {
     return {
-        {L"OPEN,打开", openUsage, &Open},          {L"NEW,新建", newUsage, &New},
-        {L"CLOSE,关闭", closeUsage, &Close},       {L"ZOOM,Z,缩放", zoomUsage, &Zoom},
-        {L"PAN,P,平移", panUsage, &Pan},           {L"SELECT,选择", selectUsage, &Select},
+        {L"OPEN,打开", openUsage, &Open},
+        {L"NEW,新建", newUsage, &New},
+        {L"CLOSE,关闭", closeUsage, &Close},
+        {L"ZOOM,Z,缩放", zoomUsage, &Zoom},
+        {L"PAN,P,平移", panUsage, &Pan},
+        {L"SELECT,选择", selectUsage, &Select},
         {L"ERASE,E,删除", eraseUsage, &EraseObjects},
     };
 }

@@ -13,9 +13,7 @@ BEGIN_MESSAGE_MAP(DrawingFrame, CMDIChildWnd)
     ON_WM_MDIACTIVATE()
 END_MESSAGE_MAP()
 
-DrawingFrame::DrawingFrame(AcApDocument* document) : m_drawing(document)
-{
-}
+DrawingFrame::DrawingFrame(AcApDocument* document) : m_drawing(document) {}
 
 int DrawingFrame::OnCreate(LPCREATESTRUCT create)
 {

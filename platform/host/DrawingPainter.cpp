@@ -96,7 +96,8 @@ void DrawingPainter::PaintItems(const arxgi::DisplayList& list)
     }
 }
 
-void DrawingPainter::PaintHighlight(const arxgi::DisplayList& list, const std::vector<AcDbObjectId>& highlighted, HPEN pen)
+void DrawingPainter::PaintHighlight(const arxgi::DisplayList& list, const std::vector<AcDbObjectId>& highlighted,
+                                    HPEN pen)
 {
     const arxui::SelectGuard selectPen(m_dc, pen);
     const arxui::SelectGuard selectBrush(m_dc, GetStockObject(NULL_BRUSH));
@@ -110,7 +111,8 @@ void DrawingPainter::PaintHighlight(const arxgi::DisplayList& list, const std::v
     }
 }
 
-void DrawingPainter::PaintPrimitive(const arxgi::DisplayList& list, const arxgi::DisplayPrimitive& primitive, bool outline)
+void DrawingPainter::PaintPrimitive(const arxgi::DisplayList& list, const arxgi::DisplayPrimitive& primitive,
+                                    bool outline)
 {
     const arxgi::Point2* points = list.points().data() + primitive.firstPoint;
     switch (primitive.kind)

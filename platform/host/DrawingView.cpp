@@ -17,9 +17,9 @@ namespace
 const COLORREF background = RGB(0, 0, 0);
 const COLORREF windowInk = RGB(80, 140, 255);
 const COLORREF crossingInk = RGB(90, 220, 110);
-const int pickReach = 6;           // pixels
-const double zoomPerNotch = 1.25;  // of the wheel
-const double refineAt = 4;         // chords may become this many times coarser than wanted before the list is built anew
+const int pickReach = 6;          // pixels
+const double zoomPerNotch = 1.25; // of the wheel
+const double refineAt = 4;        // chords may become this many times coarser than wanted before the list is built anew
 const double tolerancePerUnit = 0.25; // of a display list: deviation in pixels
 
 } // namespace
@@ -43,9 +43,7 @@ BEGIN_MESSAGE_MAP(DrawingView, CView)
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
-DrawingView::DrawingView(AcApDocument* document) : m_drawing(document)
-{
-}
+DrawingView::DrawingView(AcApDocument* document) : m_drawing(document) {}
 
 const arxgi::DisplayList& DrawingView::List()
 {

@@ -1,8 +1,9 @@
 // The view of a drawing: paints it, pans and zooms, picks objects and selects by window.
 //
-// Middle button drags the picture, its double click shows everything; the wheel zooms at the cursor. A left click picks the
-// object under the cursor (Shift takes it out of the selection); where there is none it starts a selection window, which a
-// second click or the release after a drag ends. Esc gives up the window, then the selection. Keys go to the command line.
+// Middle button drags the picture, its double click shows everything; the wheel zooms at the cursor. A left click picks
+// the object under the cursor (Shift takes it out of the selection); where there is none it starts a selection window,
+// which a second click or the release after a drag ends. Esc gives up the window, then the selection. Keys go to the
+// command line.
 #pragma once
 
 #include <afxwin.h>

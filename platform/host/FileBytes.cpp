@@ -38,7 +38,8 @@ bool ReadFileBytes(const std::wstring& path, std::string& bytes)
         return false;
     std::string read(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD count = 0;
-    if (!read.empty() && (!ReadFile(file.Get(), &read[0], static_cast<DWORD>(read.size()), &count, nullptr) || count != read.size()))
+    if (!read.empty() &&
+        (!ReadFile(file.Get(), &read[0], static_cast<DWORD>(read.size()), &count, nullptr) || count != read.size()))
         return false;
     bytes.swap(read);
     return true;

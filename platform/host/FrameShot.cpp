@@ -97,8 +97,8 @@ private:
     HDC m_dc;
 };
 
-// Wine keeps what was painted in memory and hands it to the display when the thread begins to wait for messages, not when
-// the batch of drawing calls is flushed: without a wait the picture lacks the last windows painted.
+// Wine keeps what was painted in memory and hands it to the display when the thread begins to wait for messages, not
+// when the batch of drawing calls is flushed: without a wait the picture lacks the last windows painted.
 void LetPaintingReachScreen()
 {
     const DWORD shortestWait = 1;

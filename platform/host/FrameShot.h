@@ -8,7 +8,8 @@
 namespace arxhost
 {
 
-// Saves the screen area of the frame and of the popups it owns as PNG. Returns a message for the user, empty on success.
+// Saves the screen area of the frame and of the popups it owns as PNG. Returns a message for the user, empty on
+// success.
 std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path);
 
 // The smallest rectangle of the screen that holds the window and the visible popups it owns.

@@ -31,9 +31,7 @@ std::vector<std::wstring> ProgramArguments()
 
 } // namespace
 
-HostApp::HostApp() : CWinApp(programName)
-{
-}
+HostApp::HostApp() : CWinApp(programName) {}
 
 BOOL HostApp::InitInstance()
 {

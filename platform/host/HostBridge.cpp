@@ -6,9 +6,7 @@
 namespace arxhost
 {
 
-HostBridge::HostBridge(MainFrame& frame) : m_frame(frame)
-{
-}
+HostBridge::HostBridge(MainFrame& frame) : m_frame(frame) {}
 
 HostBridge::~HostBridge()
 {

@@ -82,7 +82,8 @@ std::wstring CommandHelp()
 bool HasName(const wchar_t* names, const std::wstring& name)
 {
     const std::wstring list = L"," + std::wstring(names) + L",";
-    return !name.empty() && name.find(L',') == std::wstring::npos && list.find(L"," + Upper(name) + L",") != std::wstring::npos;
+    return !name.empty() && name.find(L',') == std::wstring::npos &&
+           list.find(L"," + Upper(name) + L",") != std::wstring::npos;
 }
 
 const std::wstring& NeedWord(const Words& words, std::size_t index, const wchar_t* usage)

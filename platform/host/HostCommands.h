@@ -1,4 +1,4 @@
-// The commands of the host itself, and how a line typed or read from a script finds its command.
+﻿// The commands of the host itself, and how a line typed or read from a script finds its command.
 #pragma once
 
 #include <string>

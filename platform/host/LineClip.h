@@ -1,4 +1,5 @@
-// Cutting a line to a box, so that a drawing zoomed in far never leaves the range of the graphics coordinates. No window.
+// Cutting a line to a box, so that a drawing zoomed in far never leaves the range of the graphics coordinates. No
+// window.
 #pragma once
 
 #include "host/ViewTransform.h"

@@ -62,13 +62,9 @@ BEGIN_MESSAGE_MAP(MainFrame, CMDIFrameWnd)
     ON_COMMAND_RANGE(ID_WINDOW_CASCADE, ID_WINDOW_TILE_VERT, &MainFrame::OnWindowCommand)
 END_MESSAGE_MAP()
 
-MainFrame::MainFrame() : m_bridge(new HostBridge(*this))
-{
-}
+MainFrame::MainFrame() : m_bridge(new HostBridge(*this)) {}
 
-MainFrame::~MainFrame()
-{
-}
+MainFrame::~MainFrame() {}
 
 MainFrame* MainFrame::Of(const CWnd& window)
 {
@@ -195,8 +191,8 @@ void MainFrame::DocumentActivated(AcApDocument* document)
 
 BOOL MainFrame::PreTranslateMessage(MSG* message)
 {
-    // The system sends the wheel to the window with the focus, mostly the command line; it is meant for what is under the
-    // cursor.
+    // The system sends the wheel to the window with the focus, mostly the command line; it is meant for what is under
+    // the cursor.
     if (message->message == WM_MOUSEWHEEL)
     {
         const CPoint point(message->lParam);

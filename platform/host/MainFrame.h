@@ -59,8 +59,8 @@ public:
     void LoadModule(const std::wstring& name);
     void StartScript(const std::wstring& path);
 
-    // The cursor moves over the drawing at this place: shows the coordinates and takes the focus back for the command line,
-    // unless a window keeps it.
+    // The cursor moves over the drawing at this place: shows the coordinates and takes the focus back for the command
+    // line, unless a window keeps it.
     void CursorOverDrawing(WorldPoint place);
 
     // Documents as the host services tell them.

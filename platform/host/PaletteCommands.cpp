@@ -8,8 +8,8 @@ namespace arxhost
 namespace
 {
 
-const wchar_t paletteUsage[] =
-    L"PALETTE（面板） DOCK LEFT|RIGHT|TOP|BOTTOM [尺寸] | FLOAT x y 宽 高 | SIZE 宽 [高] | SHOW | HIDE | ROLLUP | ROLLDOWN：布置面板";
+const wchar_t paletteUsage[] = L"PALETTE（面板） DOCK LEFT|RIGHT|TOP|BOTTOM [尺寸] | FLOAT x y 宽 高 | SIZE 宽 [高] | "
+                               L"SHOW | HIDE | ROLLUP | ROLLDOWN：布置面板";
 const wchar_t pressUsage[] = L"PRESS（按下） 编号：按下面板中的控件";
 const wchar_t rowUsage[] = L"SELECTROW（选行） 行号 [ADD]：选择面板列表中的一行";
 const wchar_t openRowUsage[] = L"OPENROW（双击行） 行号：双击面板列表中的一行";
@@ -135,8 +135,8 @@ void SelectNode(MainFrame& /*frame*/, const Words& words)
 std::vector<HostCommand> PaletteCommands()
 {
     return {
-        {L"PALETTE,面板", paletteUsage, &Palette},   {L"PRESS,按下", pressUsage, &Press},
-        {L"SELECTROW,选行", rowUsage, &SelectRow},   {L"OPENROW,双击行", openRowUsage, &OpenRow},
+        {L"PALETTE,面板", paletteUsage, &Palette},      {L"PRESS,按下", pressUsage, &Press},
+        {L"SELECTROW,选行", rowUsage, &SelectRow},      {L"OPENROW,双击行", openRowUsage, &OpenRow},
         {L"SELECTNODE,选节点", nodeUsage, &SelectNode},
     };
 }

@@ -21,8 +21,8 @@ BOOL CALLBACK MatchControl(HWND window, LPARAM search)
     ControlSearch& wanted = *reinterpret_cast<ControlSearch*>(search);
     wchar_t className[64] = L"";
     GetClassNameW(window, className, _countof(className));
-    const bool matches = wanted.className != NULL ? _wcsicmp(className, wanted.className) == 0
-                                                  : ::GetDlgCtrlID(window) == wanted.id;
+    const bool matches =
+        wanted.className != NULL ? _wcsicmp(className, wanted.className) == 0 : ::GetDlgCtrlID(window) == wanted.id;
     if (!matches || !::IsWindowVisible(window))
         return TRUE;
     wanted.found = window;

@@ -8,7 +8,8 @@
 namespace arxhost
 {
 
-// The palette set to work on: the visible one that was created last, else the one created last; null when there is none.
+// The palette set to work on: the visible one that was created last, else the one created last; null when there is
+// none.
 CAdUiPaletteSet* CurrentPaletteSet();
 
 // The first visible descendant with the identifier; null when there is none.

@@ -21,8 +21,8 @@ const wchar_t quitUsage[] = L"QUIT（退出）：结束程序";
 
 const int longestDelay = 60000;
 
-std::wstring AskForFile(MainFrame& frame, const Words& words, bool open, const wchar_t* extension, const wchar_t* filter,
-                        const wchar_t* usage)
+std::wstring AskForFile(MainFrame& frame, const Words& words, bool open, const wchar_t* extension,
+                        const wchar_t* filter, const wchar_t* usage)
 {
     if (!words.empty())
         return words[0];
@@ -109,9 +109,9 @@ void Quit(MainFrame& frame, const Words& /*words*/)
 std::vector<HostCommand> ProgramCommands()
 {
     return {
-        {L"ARX,APPLOAD,模块", arxUsage, &Arx},   {L"SCRIPT,SCR,脚本", scriptUsage, &Script},
-        {L"DELAY,延时", delayUsage, &Delay},     {L"SHOT,画面", shotUsage, &Shot},
-        {L"HELP,?,帮助", helpUsage, &Help},      {L"QUIT,EXIT,退出", quitUsage, &Quit},
+        {L"ARX,APPLOAD,模块", arxUsage, &Arx}, {L"SCRIPT,SCR,脚本", scriptUsage, &Script},
+        {L"DELAY,延时", delayUsage, &Delay},   {L"SHOT,画面", shotUsage, &Shot},
+        {L"HELP,?,帮助", helpUsage, &Help},    {L"QUIT,EXIT,退出", quitUsage, &Quit},
     };
 }
 

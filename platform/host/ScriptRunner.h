@@ -1,5 +1,5 @@
-// The script lines that wait to be run. The program takes one line each time its message queue is empty, so that every line
-// meets windows that have dealt with the line before. No window.
+// The script lines that wait to be run. The program takes one line each time its message queue is empty, so that every
+// line meets windows that have dealt with the line before. No window.
 #pragma once
 
 #include "host/ScriptText.h"
@@ -14,8 +14,8 @@ namespace arxhost
 class ScriptRunner
 {
 public:
-    // Queues the lines of a script before the ones that wait: a script called by a script runs first. False with a message
-    // for the user when the file can't be read.
+    // Queues the lines of a script before the ones that wait: a script called by a script runs first. False with a
+    // message for the user when the file can't be read.
     bool Load(const std::wstring& path, std::wstring& error);
     void Add(const std::wstring& name, const std::wstring& text);
     void Clear();

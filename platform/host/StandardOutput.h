@@ -1,4 +1,5 @@
-// The program's standard output, where it has one: a shell that started a script reads there what the command line says.
+// The program's standard output, where it has one: a shell that started a script reads there what the command line
+// says.
 #pragma once
 
 #include <string>

@@ -55,9 +55,7 @@ CSize StatusStrip::CalcFixedLayout(BOOL /*stretch*/, BOOL /*horizontal*/)
     return CSize(unlimited, stripHeight);
 }
 
-void StatusStrip::OnUpdateCmdUI(CFrameWnd* /*target*/, BOOL /*disableIfNoHandler*/)
-{
-}
+void StatusStrip::OnUpdateCmdUI(CFrameWnd* /*target*/, BOOL /*disableIfNoHandler*/) {}
 
 BOOL StatusStrip::OnEraseBkgnd(CDC* /*dc*/)
 {

@@ -1,7 +1,7 @@
 // The mapping between drawing units and pixels of a drawing view, and what zoom and pan do to it. No window.
 //
-// A view shows the drawing around a centre point; its height in drawing units fills the window's height. The drawing's y
-// axis points up, the window's down.
+// A view shows the drawing around a centre point; its height in drawing units fills the window's height. The drawing's
+// y axis points up, the window's down.
 #pragma once
 
 namespace arxhost

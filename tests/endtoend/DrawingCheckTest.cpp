@@ -41,7 +41,8 @@ class DrawingCheck : public testing::Test
 protected:
     void Run(const std::wstring& drawing)
     {
-        const std::wstring arguments = L"\"" + drawing + L"\" /ld ZNKTControls.arx /ld drawing_check.arx /b \"" + WriteScript() + L"\"";
+        const std::wstring arguments =
+            L"\"" + drawing + L"\" /ld ZNKTControls.arx /ld drawing_check.arx /b \"" + WriteScript() + L"\"";
         m_host.reset(new HostProcess(arguments));
         ASSERT_TRUE(WaitFor([&] { return IsListed() || !m_host->IsRunning(); }, g_patience));
         ASSERT_TRUE(m_host->IsRunning()) << "the host ended with code " << m_host->WaitForEnd(0);
@@ -79,8 +80,9 @@ protected:
 TEST_F(DrawingCheck, PaletteListsEverySeededFaultOfTheSampleDrawing)
 {
     Run(Wide(ZNKT_DRAWINGS_FOLDER) + L"/bracket.dxf");
-    const std::map<std::wstring, int> expected = {{L"零长度线", 1},     {L"重复对象", 2},   {L"端点未相接", 1}, {L"多段线未闭合", 1},
-                                                  {L"文字高度为零", 1}, {L"超出图幅", 2},   {L"缺少引用", 2},   {L"检查结果", 1}};
+    const std::map<std::wstring, int> expected = {{L"零长度线", 1},     {L"重复对象", 2},     {L"端点未相接", 1},
+                                                  {L"多段线未闭合", 1}, {L"文字高度为零", 1}, {L"超出图幅", 2},
+                                                  {L"缺少引用", 2},     {L"检查结果", 1}};
     EXPECT_EQ(expected, CountsBySource());
     EXPECT_EQ(std::to_wstring(m_rows.size()) + L"个消息", CountText());
     const HWND tree = m_host->FindControl(WC_TREEVIEWW, g_tree);

@@ -97,8 +97,8 @@ TEST(DrawingChecks, CoordinatesThatAreNoNumbersAreHarmless)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double inf = std::numeric_limits<double>::infinity();
-    EXPECT_TRUE(FindGaps({Curve(0, nan, 0, 1, nan), Curve(1, inf, 0, -inf, 0), Curve(2, 1e300, 0, 5, 5)}, kTolerance)
-                    .empty());
+    EXPECT_TRUE(
+        FindGaps({Curve(0, nan, 0, 1, nan), Curve(1, inf, 0, -inf, 0), Curve(2, 1e300, 0, 5, 5)}, kTolerance).empty());
 }
 
 TEST(DrawingChecks, OpenPolylineThatNearlyClosesIsFound)
@@ -110,6 +110,7 @@ TEST(DrawingChecks, OpenPolylineThatNearlyClosesIsFound)
 TEST(DrawingChecks, BoxesOutsideTheSheetAreFoundAndTouchingOnesAreNot)
 {
     const Box sheet = {{0, 0}, {420, 297}};
-    const std::vector<Box> boxes = {{{0, 0}, {420, 297}}, {{400, 10}, {430, 20}}, {{-1, 5}, {2, 6}}, {{5, 5}, {6, 298}}};
+    const std::vector<Box> boxes = {
+        {{0, 0}, {420, 297}}, {{400, 10}, {430, 20}}, {{-1, 5}, {2, 6}}, {{5, 5}, {6, 298}}};
     EXPECT_EQ(FindOutside(boxes, sheet), (std::vector<std::size_t>{1, 2, 3}));
 }

@@ -142,7 +142,10 @@ private:
         m_words.push_back(HIWORD(value));
     }
 
-    void AddText(const std::wstring& text) { m_words.insert(m_words.end(), text.c_str(), text.c_str() + text.size() + 1); }
+    void AddText(const std::wstring& text)
+    {
+        m_words.insert(m_words.end(), text.c_str(), text.c_str() + text.size() + 1);
+    }
 
     static const int m_buttonWidth = 40;
     static const int m_buttonHeight = 14;

@@ -59,7 +59,8 @@ public:
     bool Near(int x, int y, COLORREF color, int tolerance = 8) const
     {
         const COLORREF pixel = Pixel(x, y);
-        return std::abs(GetRValue(pixel) - GetRValue(color)) <= tolerance && std::abs(GetGValue(pixel) - GetGValue(color)) <= tolerance &&
+        return std::abs(GetRValue(pixel) - GetRValue(color)) <= tolerance &&
+               std::abs(GetGValue(pixel) - GetGValue(color)) <= tolerance &&
                std::abs(GetBValue(pixel) - GetBValue(color)) <= tolerance;
     }
 

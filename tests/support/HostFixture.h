@@ -1,5 +1,5 @@
-// The host in-process for tests of palettes and modules: a shown MDI frame with its bars, the host services connected to it,
-// and a profile of its own, so that layouts of one test never meet another.
+// The host in-process for tests of palettes and modules: a shown MDI frame with its bars, the host services connected
+// to it, and a profile of its own, so that layouts of one test never meet another.
 //
 //     class MyTest : public HostFixture {};
 //     TEST_F(MyTest, ...) { set.Create(..., &Frame()); Frame().ShowControlBar(&set, TRUE, FALSE); ... }

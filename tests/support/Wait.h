@@ -6,7 +6,8 @@
 #include <windows.h>
 
 // False when the time-out (milliseconds) passed first.
-template<class CONDITION> bool WaitFor(CONDITION condition, DWORD timeout = 5000)
+template<class CONDITION>
+bool WaitFor(CONDITION condition, DWORD timeout = 5000)
 {
     const DWORD start = ::GetTickCount();
     while (!condition())

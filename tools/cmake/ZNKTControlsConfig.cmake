@@ -40,6 +40,8 @@ if(NOT TARGET ZNKT::Platform)
       "ZNKT::arx;ZNKT::xtp;ZNKT::ZNKTPub;ZNKT::ZnAcadUiBase;ZNKT::ZnQFCBaseU;ZNKT::afx;comctl32;gdi32;ole32;uuid"
     INTERFACE_COMPILE_DEFINITIONS
       "UNICODE;_UNICODE;WIN32;_WINDOWS;WINVER=0x0601;_WIN32_WINNT=0x0601;_WIN32_IE=0x0800;_AFXDLL;NOMINMAX"
+    # The framework's null objects and typed pointer collections need both, as the platform's own build does.
+    INTERFACE_COMPILE_OPTIONS "-fno-delete-null-pointer-checks;-fno-strict-aliasing"
     INTERFACE_COMPILE_FEATURES cxx_std_17)
 
   file(GLOB _znkt_folders LIST_DIRECTORIES true "${_znkt_root}/include/ZNKTControls/*")

@@ -17,7 +17,8 @@ if(ZNKT_CCACHE)
 endif()
 
 # Unicode Windows 7 and later, the framework shared as a DLL.
-set(ZNKT_DEFINITIONS UNICODE _UNICODE WIN32 _WINDOWS WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800 _AFXDLL NOMINMAX)
+set(ZNKT_DEFINITIONS UNICODE _UNICODE WIN32 _WINDOWS WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800 _AFXDLL NOMINMAX
+  $<$<CONFIG:Debug>:_DEBUG>)
 set(ZNKT_WARNINGS -Wall -Wextra -Werror -Wno-unknown-pragmas)
 
 # Own code of a target: definitions and warnings as errors.

@@ -16,22 +16,16 @@ void CComboBox::GetLBText(int index, CString& text) const
     text.ReleaseBuffer(length);
 }
 
-void CComboBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-}
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
     return 0;
 }
 
-void CComboBox::DeleteItem(LPDELETEITEMSTRUCT)
-{
-}
+void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

@@ -14,7 +14,10 @@ public:
     int GetLineCount() const { return static_cast<int>(::SendMessage(m_hWnd, EM_GETLINECOUNT, 0, 0)); }
     BOOL GetModify() const { return static_cast<BOOL>(::SendMessage(m_hWnd, EM_GETMODIFY, 0, 0)); }
     void SetModify(BOOL modified = TRUE) { ::SendMessage(m_hWnd, EM_SETMODIFY, modified, 0); }
-    BOOL SetReadOnly(BOOL readOnly = TRUE) { return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SETREADONLY, readOnly, 0)); }
+    BOOL SetReadOnly(BOOL readOnly = TRUE)
+    {
+        return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SETREADONLY, readOnly, 0));
+    }
     void GetRect(LPRECT rect) const { ::SendMessage(m_hWnd, EM_GETRECT, 0, LPARAM(rect)); }
     void SetRect(LPCRECT rect) { ::SendMessage(m_hWnd, EM_SETRECT, 0, LPARAM(rect)); }
     void SetRectNP(LPCRECT rect) { ::SendMessage(m_hWnd, EM_SETRECTNP, 0, LPARAM(rect)); }
@@ -31,9 +34,15 @@ public:
     UINT GetLimitText() const { return static_cast<UINT>(::SendMessage(m_hWnd, EM_GETLIMITTEXT, 0, 0)); }
 
     // Copies without a terminating zero and returns the number of characters copied.
-    int GetLine(int index, LPTSTR buffer) const { return int(::SendMessage(m_hWnd, EM_GETLINE, index, LPARAM(buffer))); }
+    int GetLine(int index, LPTSTR buffer) const
+    {
+        return int(::SendMessage(m_hWnd, EM_GETLINE, index, LPARAM(buffer)));
+    }
     int GetLine(int index, LPTSTR buffer, int maxLength) const;
-    int LineFromChar(int index = -1) const { return static_cast<int>(::SendMessage(m_hWnd, EM_LINEFROMCHAR, index, 0)); }
+    int LineFromChar(int index = -1) const
+    {
+        return static_cast<int>(::SendMessage(m_hWnd, EM_LINEFROMCHAR, index, 0));
+    }
     int LineIndex(int line = -1) const { return static_cast<int>(::SendMessage(m_hWnd, EM_LINEINDEX, line, 0)); }
     int LineLength(int line = -1) const { return static_cast<int>(::SendMessage(m_hWnd, EM_LINELENGTH, line, 0)); }
     void LineScroll(int lines, int chars = 0) { ::SendMessage(m_hWnd, EM_LINESCROLL, chars, lines); }
@@ -45,7 +54,10 @@ public:
     DWORD GetMargins() const { return static_cast<DWORD>(::SendMessage(m_hWnd, EM_GETMARGINS, 0, 0)); }
     void SetPasswordChar(TCHAR c) { ::SendMessage(m_hWnd, EM_SETPASSWORDCHAR, c, 0); }
     TCHAR GetPasswordChar() const { return static_cast<TCHAR>(::SendMessage(m_hWnd, EM_GETPASSWORDCHAR, 0, 0)); }
-    BOOL SetTabStops(const int& stop) { return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SETTABSTOPS, 1, LPARAM(&stop))); }
+    BOOL SetTabStops(const int& stop)
+    {
+        return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SETTABSTOPS, 1, LPARAM(&stop)));
+    }
     HLOCAL GetHandle() const { return reinterpret_cast<HLOCAL>(::SendMessage(m_hWnd, EM_GETHANDLE, 0, 0)); }
     BOOL FmtLines(BOOL addEol) { return static_cast<BOOL>(::SendMessage(m_hWnd, EM_FMTLINES, addEol, 0)); }
 

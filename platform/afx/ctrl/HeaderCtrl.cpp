@@ -26,9 +26,7 @@ CImageList* CHeaderCtrl::SetImageList(CImageList* images)
     return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(::SendMessage(m_hWnd, HDM_SETIMAGELIST, 0, handle)));
 }
 
-void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

@@ -37,22 +37,16 @@ UINT CListBox::ItemFromPoint(CPoint point, BOOL& outside) const
     return LOWORD(found);
 }
 
-void CListBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CListBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CListBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-}
+void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CListBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
     return 0;
 }
 
-void CListBox::DeleteItem(LPDELETEITEMSTRUCT)
-{
-}
+void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 int CListBox::VKeyToItem(UINT, UINT)
 {

@@ -76,13 +76,14 @@ int CListCtrl::InsertItem(UINT mask, int row, LPCTSTR text, UINT state, UINT sta
     return InsertItem(&item);
 }
 
-BOOL CListCtrl::SetItem(int row, int column, UINT mask, LPCTSTR text, int image, UINT state, UINT stateMask, LPARAM data)
+BOOL CListCtrl::SetItem(int row, int column, UINT mask, LPCTSTR text, int image, UINT state, UINT stateMask,
+                        LPARAM data)
 {
     return SetItem(row, column, mask, text, image, state, stateMask, data, 0);
 }
 
-BOOL CListCtrl::SetItem(int row, int column, UINT mask, LPCTSTR text, int image, UINT state, UINT stateMask, LPARAM data,
-                        int indent)
+BOOL CListCtrl::SetItem(int row, int column, UINT mask, LPCTSTR text, int image, UINT state, UINT stateMask,
+                        LPARAM data, int indent)
 {
     LVITEM item = {};
     item.mask = mask;
@@ -270,9 +271,7 @@ CEdit* CListCtrl::GetEditControl() const
     return EditOf(::SendMessage(m_hWnd, LVM_GETEDITCONTROL, 0, 0));
 }
 
-void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

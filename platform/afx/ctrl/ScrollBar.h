@@ -13,7 +13,10 @@ public:
     int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
     int SetScrollPos(int position, BOOL redraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw); }
     void GetScrollRange(LPINT least, LPINT most) const { ::GetScrollRange(m_hWnd, SB_CTL, least, most); }
-    void SetScrollRange(int least, int most, BOOL redraw = TRUE) { ::SetScrollRange(m_hWnd, SB_CTL, least, most, redraw); }
+    void SetScrollRange(int least, int most, BOOL redraw = TRUE)
+    {
+        ::SetScrollRange(m_hWnd, SB_CTL, least, most, redraw);
+    }
     void ShowScrollBar(BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, show); }
     BOOL EnableScrollBar(UINT arrows = ESB_ENABLE_BOTH) { return ::EnableScrollBar(m_hWnd, SB_CTL, arrows); }
     BOOL SetScrollInfo(LPSCROLLINFO info, BOOL redraw = TRUE);

@@ -7,9 +7,7 @@ BOOL CStatic::Create(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, 
     return CWnd::Create(WC_STATIC, text, style, rect, parent, id);
 }
 
-void CStatic::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CStatic::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

@@ -17,7 +17,10 @@ public:
     HBITMAP GetBitmap() const { return static_cast<HBITMAP>(GetImage(IMAGE_BITMAP)); }
     HCURSOR SetCursor(HCURSOR cursor) { return static_cast<HCURSOR>(SetImage(IMAGE_CURSOR, cursor)); }
     HCURSOR GetCursor() { return static_cast<HCURSOR>(GetImage(IMAGE_CURSOR)); }
-    HENHMETAFILE SetEnhMetaFile(HENHMETAFILE file) { return static_cast<HENHMETAFILE>(SetImage(IMAGE_ENHMETAFILE, file)); }
+    HENHMETAFILE SetEnhMetaFile(HENHMETAFILE file)
+    {
+        return static_cast<HENHMETAFILE>(SetImage(IMAGE_ENHMETAFILE, file));
+    }
     HENHMETAFILE GetEnhMetaFile() const { return static_cast<HENHMETAFILE>(GetImage(IMAGE_ENHMETAFILE)); }
 
     // For SS_OWNERDRAW.

@@ -63,9 +63,7 @@ void CTabCtrl::SetToolTips(CToolTipCtrl* tip)
     ::SendMessage(m_hWnd, TCM_SETTOOLTIPS, WPARAM(tip->GetSafeHwnd()), 0);
 }
 
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

@@ -16,10 +16,16 @@ public:
     virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     int GetItemCount() const { return static_cast<int>(::SendMessage(m_hWnd, TCM_GETITEMCOUNT, 0, 0)); }
-    BOOL GetItem(int index, TCITEM* item) const { return BOOL(::SendMessage(m_hWnd, TCM_GETITEM, index, LPARAM(item))); }
+    BOOL GetItem(int index, TCITEM* item) const
+    {
+        return BOOL(::SendMessage(m_hWnd, TCM_GETITEM, index, LPARAM(item)));
+    }
     BOOL SetItem(int index, TCITEM* item) { return BOOL(::SendMessage(m_hWnd, TCM_SETITEM, index, LPARAM(item))); }
     // Index of the new tab, -1 on failure.
-    LONG InsertItem(int index, TCITEM* item) { return LONG(::SendMessage(m_hWnd, TCM_INSERTITEM, index, LPARAM(item))); }
+    LONG InsertItem(int index, TCITEM* item)
+    {
+        return LONG(::SendMessage(m_hWnd, TCM_INSERTITEM, index, LPARAM(item)));
+    }
     LONG InsertItem(int index, LPCTSTR text);
     LONG InsertItem(int index, LPCTSTR text, int image);
     LONG InsertItem(UINT mask, int index, LPCTSTR text, int image, LPARAM data);
@@ -31,9 +37,15 @@ public:
     int SetCurSel(int index) { return static_cast<int>(::SendMessage(m_hWnd, TCM_SETCURSEL, index, 0)); }
     int GetCurFocus() const { return static_cast<int>(::SendMessage(m_hWnd, TCM_GETCURFOCUS, 0, 0)); }
     void SetCurFocus(int index) { ::SendMessage(m_hWnd, TCM_SETCURFOCUS, index, 0); }
-    int HitTest(TCHITTESTINFO* info) const { return static_cast<int>(::SendMessage(m_hWnd, TCM_HITTEST, 0, LPARAM(info))); }
+    int HitTest(TCHITTESTINFO* info) const
+    {
+        return static_cast<int>(::SendMessage(m_hWnd, TCM_HITTEST, 0, LPARAM(info)));
+    }
 
-    BOOL GetItemRect(int index, LPRECT rect) const { return BOOL(::SendMessage(m_hWnd, TCM_GETITEMRECT, index, LPARAM(rect))); }
+    BOOL GetItemRect(int index, LPRECT rect) const
+    {
+        return BOOL(::SendMessage(m_hWnd, TCM_GETITEMRECT, index, LPARAM(rect)));
+    }
     // From window rectangle to display area, or (larger) the other way round.
     void AdjustRect(BOOL larger, LPRECT rect) { ::SendMessage(m_hWnd, TCM_ADJUSTRECT, larger, LPARAM(rect)); }
     CSize SetItemSize(CSize size);
@@ -42,7 +54,10 @@ public:
     int GetRowCount() const { return static_cast<int>(::SendMessage(m_hWnd, TCM_GETROWCOUNT, 0, 0)); }
     BOOL HighlightItem(int index, BOOL highlight = TRUE);
     DWORD GetExtendedStyle() { return static_cast<DWORD>(::SendMessage(m_hWnd, TCM_GETEXTENDEDSTYLE, 0, 0)); }
-    DWORD SetExtendedStyle(DWORD style, DWORD mask = 0) { return DWORD(::SendMessage(m_hWnd, TCM_SETEXTENDEDSTYLE, mask, style)); }
+    DWORD SetExtendedStyle(DWORD style, DWORD mask = 0)
+    {
+        return DWORD(::SendMessage(m_hWnd, TCM_SETEXTENDEDSTYLE, mask, style));
+    }
 
     // Borrowed; temporary objects are returned.
     CImageList* GetImageList() const;

@@ -36,7 +36,10 @@ public:
     BOOL GetToolInfo(CToolInfo& info, CWnd* window, UINT_PTR id = 0) const;
     void SetToolInfo(LPTOOLINFO info) { ::SendMessage(m_hWnd, TTM_SETTOOLINFO, 0, LPARAM(info)); }
     // FALSE while no tip is shown.
-    BOOL GetCurrentTool(LPTOOLINFO info) const { return BOOL(::SendMessage(m_hWnd, TTM_GETCURRENTTOOL, 0, LPARAM(info))); }
+    BOOL GetCurrentTool(LPTOOLINFO info) const
+    {
+        return BOOL(::SendMessage(m_hWnd, TTM_GETCURRENTTOOL, 0, LPARAM(info)));
+    }
     void SetToolRect(CWnd* window, UINT_PTR id, LPCRECT rect);
     BOOL HitTest(CWnd* window, CPoint point, LPTOOLINFO info) const;
 
@@ -56,8 +59,14 @@ public:
 
     // Times in milliseconds; duration is TTDT_...
     void SetDelayTime(UINT delay) { ::SendMessage(m_hWnd, TTM_SETDELAYTIME, TTDT_AUTOMATIC, delay); }
-    void SetDelayTime(DWORD duration, int time) { ::SendMessage(m_hWnd, TTM_SETDELAYTIME, duration, MAKELPARAM(time, 0)); }
-    int GetDelayTime(DWORD duration) const { return static_cast<int>(::SendMessage(m_hWnd, TTM_GETDELAYTIME, duration, 0)); }
+    void SetDelayTime(DWORD duration, int time)
+    {
+        ::SendMessage(m_hWnd, TTM_SETDELAYTIME, duration, MAKELPARAM(time, 0));
+    }
+    int GetDelayTime(DWORD duration) const
+    {
+        return static_cast<int>(::SendMessage(m_hWnd, TTM_GETDELAYTIME, duration, 0));
+    }
 
     // Look. Widths in pixels; a tip breaks its lines only when a maximal width is set (-1: not).
     int GetMaxTipWidth() const { return static_cast<int>(::SendMessage(m_hWnd, TTM_GETMAXTIPWIDTH, 0, 0)); }
@@ -68,7 +77,10 @@ public:
     void SetTipBkColor(COLORREF color) { ::SendMessage(m_hWnd, TTM_SETTIPBKCOLOR, color, 0); }
     COLORREF GetTipTextColor() const { return static_cast<COLORREF>(::SendMessage(m_hWnd, TTM_GETTIPTEXTCOLOR, 0, 0)); }
     void SetTipTextColor(COLORREF color) { ::SendMessage(m_hWnd, TTM_SETTIPTEXTCOLOR, color, 0); }
-    BOOL AdjustRect(LPRECT rect, BOOL larger = TRUE) { return BOOL(::SendMessage(m_hWnd, TTM_ADJUSTRECT, larger, LPARAM(rect))); }
+    BOOL AdjustRect(LPRECT rect, BOOL larger = TRUE)
+    {
+        return BOOL(::SendMessage(m_hWnd, TTM_ADJUSTRECT, larger, LPARAM(rect)));
+    }
     CSize GetBubbleSize(LPTOOLINFO info) const;
 
 protected:

@@ -25,7 +25,10 @@ public:
     HTREEITEM InsertItem(LPCTSTR text, HTREEITEM parent = TVI_ROOT, HTREEITEM insertAfter = TVI_LAST);
     HTREEITEM InsertItem(LPCTSTR text, int image, int selectedImage, HTREEITEM parent = TVI_ROOT,
                          HTREEITEM insertAfter = TVI_LAST);
-    BOOL DeleteItem(HTREEITEM item) { return static_cast<BOOL>(::SendMessage(m_hWnd, TVM_DELETEITEM, 0, LPARAM(item))); }
+    BOOL DeleteItem(HTREEITEM item)
+    {
+        return static_cast<BOOL>(::SendMessage(m_hWnd, TVM_DELETEITEM, 0, LPARAM(item)));
+    }
     BOOL DeleteAllItems() { return DeleteItem(TVI_ROOT); }
     BOOL GetItem(TVITEM* item) const { return static_cast<BOOL>(::SendMessage(m_hWnd, TVM_GETITEM, 0, LPARAM(item))); }
     BOOL SetItem(TVITEM* item) { return static_cast<BOOL>(::SendMessage(m_hWnd, TVM_SETITEM, 0, LPARAM(item))); }
@@ -75,15 +78,27 @@ public:
     UINT GetIndent() const { return static_cast<UINT>(::SendMessage(m_hWnd, TVM_GETINDENT, 0, 0)); }
     void SetIndent(UINT indent) { ::SendMessage(m_hWnd, TVM_SETINDENT, indent, 0); }
     SHORT GetItemHeight() const { return static_cast<SHORT>(::SendMessage(m_hWnd, TVM_GETITEMHEIGHT, 0, 0)); }
-    SHORT SetItemHeight(SHORT height) { return static_cast<SHORT>(::SendMessage(m_hWnd, TVM_SETITEMHEIGHT, height, 0)); }
+    SHORT SetItemHeight(SHORT height)
+    {
+        return static_cast<SHORT>(::SendMessage(m_hWnd, TVM_SETITEMHEIGHT, height, 0));
+    }
 
     // Look.
     COLORREF GetBkColor() const { return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_GETBKCOLOR, 0, 0)); }
-    COLORREF SetBkColor(COLORREF color) { return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_SETBKCOLOR, 0, color)); }
+    COLORREF SetBkColor(COLORREF color)
+    {
+        return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_SETBKCOLOR, 0, color));
+    }
     COLORREF GetTextColor() const { return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_GETTEXTCOLOR, 0, 0)); }
-    COLORREF SetTextColor(COLORREF color) { return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_SETTEXTCOLOR, 0, color)); }
+    COLORREF SetTextColor(COLORREF color)
+    {
+        return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_SETTEXTCOLOR, 0, color));
+    }
     COLORREF GetLineColor() const { return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_GETLINECOLOR, 0, 0)); }
-    COLORREF SetLineColor(COLORREF color) { return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_SETLINECOLOR, 0, color)); }
+    COLORREF SetLineColor(COLORREF color)
+    {
+        return static_cast<COLORREF>(::SendMessage(m_hWnd, TVM_SETLINECOLOR, 0, color));
+    }
     // Borrowed; temporary objects are returned.
     CImageList* GetImageList(UINT kind) const;
     CImageList* SetImageList(CImageList* images, int kind);

@@ -23,8 +23,7 @@ INT_PTR CColorDialog::DoModal()
 
 COLORREF* PASCAL CColorDialog::GetSavedCustomColors()
 {
-    static COLORREF* const colors = []
-    {
+    static COLORREF* const colors = [] {
         static COLORREF saved[CustomColorCount];
         for (COLORREF& color : saved)
             color = RGB(255, 255, 255);

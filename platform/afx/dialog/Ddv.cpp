@@ -27,7 +27,7 @@ CString ShownReal(double value)
 }
 
 // A program may start with a value outside; only what the user leaves there is refused.
-template <class VALUE, class SHOW>
+template<class VALUE, class SHOW>
 void CheckRange(CDataExchange* exchange, VALUE value, VALUE least, VALUE most, SHOW show)
 {
     if (exchange->m_bSaveAndValidate && (value < least || value > most))

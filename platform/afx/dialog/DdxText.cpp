@@ -51,7 +51,8 @@ bool ParseUnsigned(const CString& text, ULONGLONG& value)
     return !text.IsEmpty() && text[0] != '-' && *end == 0 && errno == 0;
 }
 
-template <class INTEGER> void ExchangeSigned(CDataExchange* exchange, int controlId, INTEGER& value)
+template<class INTEGER>
+void ExchangeSigned(CDataExchange* exchange, int controlId, INTEGER& value)
 {
     const HWND control = exchange->PrepareEditCtrl(controlId);
     if (!exchange->m_bSaveAndValidate)
@@ -68,7 +69,7 @@ template <class INTEGER> void ExchangeSigned(CDataExchange* exchange, int contro
     value = static_cast<INTEGER>(read);
 }
 
-template <class INTEGER>
+template<class INTEGER>
 void ExchangeUnsigned(CDataExchange* exchange, int controlId, INTEGER& value, Refusal refusal = Refusal::NoUnsigned)
 {
     const HWND control = exchange->PrepareEditCtrl(controlId);
@@ -85,7 +86,8 @@ void ExchangeUnsigned(CDataExchange* exchange, int controlId, INTEGER& value, Re
     value = static_cast<INTEGER>(read);
 }
 
-template <class REAL> void ExchangeReal(CDataExchange* exchange, int controlId, REAL& value, int digits)
+template<class REAL>
+void ExchangeReal(CDataExchange* exchange, int controlId, REAL& value, int digits)
 {
     const HWND control = exchange->PrepareEditCtrl(controlId);
     if (!exchange->m_bSaveAndValidate)

@@ -63,9 +63,7 @@ private:
 
 CDialog::CDialog() = default;
 
-CDialog::CDialog(LPCTSTR templateName, CWnd* parent) : m_lpszTemplateName(templateName), m_pParentWnd(parent)
-{
-}
+CDialog::CDialog(LPCTSTR templateName, CWnd* parent) : m_lpszTemplateName(templateName), m_pParentWnd(parent) {}
 
 CDialog::CDialog(UINT templateId, CWnd* parent)
     : m_nIDHelp(templateId), m_lpszTemplateName(MAKEINTRESOURCE(templateId)), m_pParentWnd(parent)
@@ -210,9 +208,7 @@ void CDialog::OnCancel()
     EndDialog(IDCANCEL);
 }
 
-void CDialog::PreInitDialog()
-{
-}
+void CDialog::PreInitDialog() {}
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
@@ -253,7 +249,8 @@ void CDialog::RunModal(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance)
         RunModalLoop(MLF_SHOWONIDLE | ((GetStyle() & DS_NOIDLEMSG) ? MLF_NOIDLEMSG : 0));
     m_nFlags &= ~WF_CONTINUEMODAL;
 
-    // The parent must be enabled before the dialog goes: the system looks for the next active window among enabled ones.
+    // The parent must be enabled before the dialog goes: the system looks for the next active window among enabled
+    // ones.
     disabledParent.Restore();
     HideModal(parent);
     DestroyWindow();

@@ -65,8 +65,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     UINT m_nIDHelp = 0;
-    LPCTSTR m_lpszTemplateName = nullptr; // name or MAKEINTRESOURCE
-    HGLOBAL m_hDialogTemplate = nullptr; // indirect (memory handle)
+    LPCTSTR m_lpszTemplateName = nullptr;        // name or MAKEINTRESOURCE
+    HGLOBAL m_hDialogTemplate = nullptr;         // indirect (memory handle)
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr; // indirect
     void* m_lpDialogInit = nullptr;
     CWnd* m_pParentWnd = nullptr; // parent of a modal dialog

@@ -26,8 +26,8 @@ public:
 
     CString GetPathName() const;
     CString GetFileName() const;
-    CString GetFileExt() const; // without the dot
-    CString GetFileTitle() const; // file name without extension
+    CString GetFileExt() const;    // without the dot
+    CString GetFileTitle() const;  // file name without extension
     CString GetFolderPath() const; // without trailing separator
     BOOL GetReadOnlyPref() const;
 

@@ -155,9 +155,7 @@ DWORD CControlBar::RecalcDelayShow()
     return GetStyle();
 }
 
-void CControlBar::OnBarStyleChange(DWORD, DWORD)
-{
-}
+void CControlBar::OnBarStyleChange(DWORD, DWORD) {}
 
 BOOL CControlBar::PreCreateWindow(CREATESTRUCT& create)
 {
@@ -256,7 +254,8 @@ LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM)
     if (!(GetStyle() & WS_VISIBLE))
         return 0;
     CWnd* const owner = GetOwner();
-    CFrameWnd* const target = owner != nullptr && owner->IsFrameWnd() ? static_cast<CFrameWnd*>(owner) : GetParentFrame();
+    CFrameWnd* const target =
+        owner != nullptr && owner->IsFrameWnd() ? static_cast<CFrameWnd*>(owner) : GetParentFrame();
     if (target != nullptr)
         OnUpdateCmdUI(target, static_cast<BOOL>(disableIfNoHandler));
     return 0;

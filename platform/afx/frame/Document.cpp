@@ -68,9 +68,7 @@ void CDocument::UpdateAllViews(CView* sender, LPARAM hint, CObject* hintObject)
     }
 }
 
-void CDocument::DeleteContents()
-{
-}
+void CDocument::DeleteContents() {}
 
 BOOL CDocument::OnNewDocument()
 {

@@ -2,7 +2,8 @@
 //
 // The frame routes commands to its active view, then to itself, then to the application; it updates its menus by the
 // same route before they are shown. RecalcLayout gives every control bar its edge and the rest of the client area to
-// the window with the id AFX_IDW_PANE_FIRST. A frame object is allocated on the heap: it deletes itself with its window.
+// the window with the id AFX_IDW_PANE_FIRST. A frame object is allocated on the heap: it deletes itself with its
+// window.
 #pragma once
 
 #include <afxcoll.h>
@@ -16,7 +17,7 @@ class CDocument;
 class CView;
 
 // Styles that the framework interprets itself.
-#define FWS_ADDTOTITLE 0x00008000L // the document's name belongs into the title
+#define FWS_ADDTOTITLE 0x00008000L  // the document's name belongs into the title
 #define FWS_PREFIXTITLE 0x00004000L // and stands in front
 #define FWS_SNAPTOBARS 0x00002000L
 
@@ -62,7 +63,7 @@ public:
     virtual void RecalcLayout(BOOL notify = TRUE);
     void DelayRecalcLayout(BOOL notify = TRUE);
 
-    BOOL m_bAutoMenuEnable = TRUE; // disable menu items without a handler
+    BOOL m_bAutoMenuEnable = TRUE;  // disable menu items without a handler
     HMENU m_hMenuDefault = nullptr; // the frame's own menu
     HACCEL m_hAccelTable = nullptr;
     CPtrList m_listControlBars; // CControlBar*, borrowed

@@ -12,8 +12,9 @@ public:
 
     using CFrameWnd::Create;
     // rect in client coordinates of the MDI client; a parent is required.
-    virtual BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style = WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
-                        const RECT& rect = rectDefault, CMDIFrameWnd* parent = nullptr, CCreateContext* context = nullptr);
+    virtual BOOL Create(LPCTSTR className, LPCTSTR windowName,
+                        DWORD style = WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, const RECT& rect = rectDefault,
+                        CMDIFrameWnd* parent = nullptr, CCreateContext* context = nullptr);
 
     CMDIFrameWnd* GetMDIFrame() const;
     void MDIDestroy() { ::SendMessage(::GetParent(m_hWnd), WM_MDIDESTROY, WPARAM(m_hWnd), 0); }

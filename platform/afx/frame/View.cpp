@@ -42,9 +42,7 @@ void CView::OnUpdate(CView*, LPARAM, CObject*)
     Invalidate();
 }
 
-void CView::OnPrepareDC(CDC*)
-{
-}
+void CView::OnPrepareDC(CDC*) {}
 
 void CView::OnActivateView(BOOL activate, CView* activated, CView*)
 {
@@ -52,9 +50,7 @@ void CView::OnActivateView(BOOL activate, CView* activated, CView*)
         SetFocus();
 }
 
-void CView::OnActivateFrame(UINT, CFrameWnd*)
-{
-}
+void CView::OnActivateFrame(UINT, CFrameWnd*) {}
 
 BOOL CView::PreCreateWindow(CREATESTRUCT& create)
 {

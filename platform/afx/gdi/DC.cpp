@@ -6,9 +6,7 @@
 
 IMPLEMENT_DYNCREATE(CDC, CObject)
 
-CDC::CDC() : m_hDC(NULL), m_hAttribDC(NULL)
-{
-}
+CDC::CDC() : m_hDC(NULL), m_hAttribDC(NULL) {}
 
 CDC::~CDC()
 {
@@ -102,7 +100,8 @@ CGdiObject* CDC::Select(CGdiObject* object)
 
 CPalette* CDC::SelectPalette(CPalette* palette, BOOL forceBackground)
 {
-    return CPalette::FromHandle(::SelectPalette(m_hDC, static_cast<HPALETTE>(palette->GetSafeHandle()), forceBackground));
+    return CPalette::FromHandle(
+        ::SelectPalette(m_hDC, static_cast<HPALETTE>(palette->GetSafeHandle()), forceBackground));
 }
 
 CPoint CDC::GetBrushOrg() const
@@ -224,19 +223,21 @@ void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF topLeft, COLORREF bo
 
 BOOL CDC::DrawState(CPoint point, CSize size, HICON icon, UINT flags, HBRUSH brush)
 {
-    return ::DrawStateW(m_hDC, brush, NULL, reinterpret_cast<LPARAM>(icon), 0, point.x, point.y, size.cx, size.cy, flags | DST_ICON);
+    return ::DrawStateW(m_hDC, brush, NULL, reinterpret_cast<LPARAM>(icon), 0, point.x, point.y, size.cx, size.cy,
+                        flags | DST_ICON);
 }
 
 BOOL CDC::DrawState(CPoint point, CSize size, HBITMAP bitmap, UINT flags, HBRUSH brush)
 {
-    return ::DrawStateW(m_hDC, brush, NULL, reinterpret_cast<LPARAM>(bitmap), 0, point.x, point.y, size.cx, size.cy, flags | DST_BITMAP);
+    return ::DrawStateW(m_hDC, brush, NULL, reinterpret_cast<LPARAM>(bitmap), 0, point.x, point.y, size.cx, size.cy,
+                        flags | DST_BITMAP);
 }
 
 BOOL CDC::DrawState(CPoint point, CSize size, LPCTSTR text, UINT flags, BOOL prefixText, int textLength, HBRUSH brush)
 {
     const UINT kind = prefixText ? DST_PREFIXTEXT : DST_TEXT;
-    return ::DrawStateW(m_hDC, brush, NULL, reinterpret_cast<LPARAM>(text), static_cast<WPARAM>(textLength), point.x, point.y, size.cx, size.cy,
-                        flags | kind);
+    return ::DrawStateW(m_hDC, brush, NULL, reinterpret_cast<LPARAM>(text), static_cast<WPARAM>(textLength), point.x,
+                        point.y, size.cx, size.cy, flags | kind);
 }
 
 int CDC::DrawText(const CString& text, LPRECT rect, UINT format)
@@ -246,7 +247,8 @@ int CDC::DrawText(const CString& text, LPRECT rect, UINT format)
     CString copy(text);
     // Windows may add up to four characters: the ellipsis and the terminating zero.
     constexpr int ellipsisRoom = 4;
-    const int height = ::DrawTextW(m_hDC, copy.GetBuffer(text.GetLength() + ellipsisRoom), text.GetLength(), rect, format);
+    const int height =
+        ::DrawTextW(m_hDC, copy.GetBuffer(text.GetLength() + ellipsisRoom), text.GetLength(), rect, format);
     copy.ReleaseBuffer();
     return height;
 }

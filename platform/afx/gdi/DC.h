@@ -1,12 +1,14 @@
-// CDC: a device context and its functions; CClientDC, CWindowDC, CPaintDC: contexts of a window for the time of a block.
+// CDC: a device context and its functions; CClientDC, CWindowDC, CPaintDC: contexts of a window for the time of a
+// block.
 //
 //   CPaintDC dc(this);                              // BeginPaint ... EndPaint
 //   CFont* previous = dc.SelectObject(&m_font);     // objects selected in must be selected out before they end
 //   dc.DrawText(text, &rect, DT_SINGLELINE | DT_VCENTER);
 //   dc.SelectObject(previous);
 //
-// Output goes to m_hDC, questions about attributes to m_hAttribDC; both are the same handle unless a print preview splits them.
-// Coordinates are logical units of the context. The destructor deletes a context that the object owns (CreateDC, CreateCompatibleDC, Attach).
+// Output goes to m_hDC, questions about attributes to m_hAttribDC; both are the same handle unless a print preview
+// splits them. Coordinates are logical units of the context. The destructor deletes a context that the object owns
+// (CreateDC, CreateCompatibleDC, Attach).
 #pragma once
 
 #include "afx/core/String.h"
@@ -59,9 +61,15 @@ public:
     CPalette* SelectPalette(CPalette* palette, BOOL forceBackground);
     UINT RealizePalette() { return ::RealizePalette(m_hDC); }
     CPen* GetCurrentPen() const { return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hDC, OBJ_PEN))); }
-    CBrush* GetCurrentBrush() const { return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH))); }
+    CBrush* GetCurrentBrush() const
+    {
+        return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH)));
+    }
     CFont* GetCurrentFont() const { return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hDC, OBJ_FONT))); }
-    CBitmap* GetCurrentBitmap() const { return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP))); }
+    CBitmap* GetCurrentBitmap() const
+    {
+        return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP)));
+    }
 
     COLORREF GetTextColor() const { return ::GetTextColor(m_hAttribDC); }
     virtual COLORREF SetTextColor(COLORREF color) { return ::SetTextColor(m_hDC, color); }
@@ -104,23 +112,44 @@ public:
     virtual BOOL PtVisible(int x, int y) const { return ::PtVisible(m_hDC, x, y); }
     virtual BOOL RectVisible(LPCRECT rect) const { return ::RectVisible(m_hDC, rect); }
     int SelectClipRgn(CRgn* region) { return ::SelectClipRgn(m_hDC, static_cast<HRGN>(region->GetSafeHandle())); }
-    int SelectClipRgn(CRgn* region, int mode) { return ::ExtSelectClipRgn(m_hDC, static_cast<HRGN>(region->GetSafeHandle()), mode); }
-    int ExcludeClipRect(LPCRECT rect) { return ::ExcludeClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom); }
-    int ExcludeClipRect(int left, int top, int right, int bottom) { return ::ExcludeClipRect(m_hDC, left, top, right, bottom); }
-    int IntersectClipRect(LPCRECT rect) { return ::IntersectClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom); }
-    int IntersectClipRect(int left, int top, int right, int bottom) { return ::IntersectClipRect(m_hDC, left, top, right, bottom); }
+    int SelectClipRgn(CRgn* region, int mode)
+    {
+        return ::ExtSelectClipRgn(m_hDC, static_cast<HRGN>(region->GetSafeHandle()), mode);
+    }
+    int ExcludeClipRect(LPCRECT rect)
+    {
+        return ::ExcludeClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom);
+    }
+    int ExcludeClipRect(int left, int top, int right, int bottom)
+    {
+        return ::ExcludeClipRect(m_hDC, left, top, right, bottom);
+    }
+    int IntersectClipRect(LPCRECT rect)
+    {
+        return ::IntersectClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom);
+    }
+    int IntersectClipRect(int left, int top, int right, int bottom)
+    {
+        return ::IntersectClipRect(m_hDC, left, top, right, bottom);
+    }
 
     CPoint GetCurrentPosition() const;
     CPoint MoveTo(int x, int y);
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
     BOOL LineTo(POINT point) { return ::LineTo(m_hDC, point.x, point.y); }
-    BOOL Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4) { return ::Arc(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4); }
+    BOOL Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
+    {
+        return ::Arc(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4);
+    }
     BOOL Polyline(const POINT* points, int count) { return ::Polyline(m_hDC, points, count); }
     BOOL PolyBezier(const POINT* points, int count) { return ::PolyBezier(m_hDC, points, count); }
 
     void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, static_cast<HBRUSH>(brush->GetSafeHandle())); }
-    void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, static_cast<HBRUSH>(brush->GetSafeHandle())); }
+    void FrameRect(LPCRECT rect, CBrush* brush)
+    {
+        ::FrameRect(m_hDC, rect, static_cast<HBRUSH>(brush->GetSafeHandle()));
+    }
     void InvertRect(LPCRECT rect) { ::InvertRect(m_hDC, rect); }
     // Fills with the color, also on a context that dithers brushes; the background color is changed on the way.
     void FillSolidRect(LPCRECT rect, COLORREF color);
@@ -132,7 +161,8 @@ public:
     BOOL DrawFrameControl(LPRECT rect, UINT type, UINT state) { return ::DrawFrameControl(m_hDC, rect, type, state); }
     BOOL DrawState(CPoint point, CSize size, HICON icon, UINT flags, HBRUSH brush = NULL);
     BOOL DrawState(CPoint point, CSize size, HBITMAP bitmap, UINT flags, HBRUSH brush = NULL);
-    BOOL DrawState(CPoint point, CSize size, LPCTSTR text, UINT flags, BOOL prefixText = TRUE, int textLength = 0, HBRUSH brush = NULL);
+    BOOL DrawState(CPoint point, CSize size, LPCTSTR text, UINT flags, BOOL prefixText = TRUE, int textLength = 0,
+                   HBRUSH brush = NULL);
     BOOL DrawIcon(int x, int y, HICON icon) { return ::DrawIcon(m_hDC, x, y, icon); }
     BOOL DrawIcon(POINT point, HICON icon) { return ::DrawIcon(m_hDC, point.x, point.y, icon); }
 
@@ -145,7 +175,10 @@ public:
     BOOL Ellipse(int x1, int y1, int x2, int y2) { return ::Ellipse(m_hDC, x1, y1, x2, y2); }
     BOOL Ellipse(LPCRECT rect) { return ::Ellipse(m_hDC, rect->left, rect->top, rect->right, rect->bottom); }
     BOOL Polygon(const POINT* points, int count) { return ::Polygon(m_hDC, points, count); }
-    BOOL PolyPolygon(const POINT* points, const INT* counts, int count) { return ::PolyPolygon(m_hDC, points, counts, count); }
+    BOOL PolyPolygon(const POINT* points, const INT* counts, int count)
+    {
+        return ::PolyPolygon(m_hDC, points, counts, count);
+    }
     BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
 
     BOOL PatBlt(int x, int y, int width, int height, DWORD rop) { return ::PatBlt(m_hDC, x, y, width, height, rop); }
@@ -153,13 +186,17 @@ public:
     {
         return ::BitBlt(m_hDC, x, y, width, height, source->GetSafeHdc(), xSource, ySource, rop);
     }
-    BOOL StretchBlt(int x, int y, int width, int height, CDC* source, int xSource, int ySource, int sourceWidth, int sourceHeight, DWORD rop)
+    BOOL StretchBlt(int x, int y, int width, int height, CDC* source, int xSource, int ySource, int sourceWidth,
+                    int sourceHeight, DWORD rop)
     {
-        return ::StretchBlt(m_hDC, x, y, width, height, source->GetSafeHdc(), xSource, ySource, sourceWidth, sourceHeight, rop);
+        return ::StretchBlt(m_hDC, x, y, width, height, source->GetSafeHdc(), xSource, ySource, sourceWidth,
+                            sourceHeight, rop);
     }
-    BOOL TransparentBlt(int x, int y, int width, int height, CDC* source, int xSource, int ySource, int sourceWidth, int sourceHeight, UINT transparent)
+    BOOL TransparentBlt(int x, int y, int width, int height, CDC* source, int xSource, int ySource, int sourceWidth,
+                        int sourceHeight, UINT transparent)
     {
-        return ::TransparentBlt(m_hDC, x, y, width, height, source->GetSafeHdc(), xSource, ySource, sourceWidth, sourceHeight, transparent);
+        return ::TransparentBlt(m_hDC, x, y, width, height, source->GetSafeHdc(), xSource, ySource, sourceWidth,
+                                sourceHeight, transparent);
     }
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
     COLORREF GetPixel(POINT point) const { return ::GetPixel(m_hDC, point.x, point.y); }
@@ -177,7 +214,10 @@ public:
     {
         return ExtTextOut(x, y, options, rect, text, static_cast<UINT>(text.GetLength()), widths);
     }
-    virtual int DrawText(LPCTSTR text, int count, LPRECT rect, UINT format) { return ::DrawTextW(m_hDC, text, count, rect, format); }
+    virtual int DrawText(LPCTSTR text, int count, LPRECT rect, UINT format)
+    {
+        return ::DrawTextW(m_hDC, text, count, rect, format);
+    }
     // DT_MODIFYSTRING works on a copy: the string stays as it is.
     int DrawText(const CString& text, LPRECT rect, UINT format);
     virtual int DrawTextEx(LPTSTR text, int count, LPRECT rect, UINT format, LPDRAWTEXTPARAMS parameters)
@@ -194,7 +234,10 @@ public:
     }
     BOOL GetTextMetrics(LPTEXTMETRIC metrics) const { return ::GetTextMetricsW(m_hAttribDC, metrics); }
     int GetTextFace(CString& face) const;
-    BOOL GetCharWidth(UINT first, UINT last, LPINT widths) const { return ::GetCharWidth32W(m_hAttribDC, first, last, widths); }
+    BOOL GetCharWidth(UINT first, UINT last, LPINT widths) const
+    {
+        return ::GetCharWidth32W(m_hAttribDC, first, last, widths);
+    }
 
 private:
     CGdiObject* Select(CGdiObject* object);

@@ -4,7 +4,8 @@
 
 namespace
 {
-template<class OBJECT> OBJECT* MakeTemporary(HGDIOBJ handle)
+template<class OBJECT>
+OBJECT* MakeTemporary(HGDIOBJ handle)
 {
     OBJECT* object = new OBJECT;
     object->m_hObject = handle;
@@ -41,7 +42,7 @@ void LetGoOfImageList(CImageList* images)
 {
     images->m_hImageList = NULL;
 }
-}
+} // namespace
 
 CHandleMap<CGdiObject, HGDIOBJ>& AfxGdiObjectMap()
 {

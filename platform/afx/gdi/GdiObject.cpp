@@ -23,11 +23,9 @@ void ThrowUnless(BOOL made)
     if (!made)
         AfxThrowResourceException();
 }
-}
+} // namespace
 
-CGdiObject::CGdiObject() : m_hObject(NULL)
-{
-}
+CGdiObject::CGdiObject() : m_hObject(NULL) {}
 
 CGdiObject::~CGdiObject()
 {
@@ -78,9 +76,7 @@ BOOL CGdiObject::CreateStockObject(int index)
     return m_hObject != NULL;
 }
 
-CPen::CPen()
-{
-}
+CPen::CPen() {}
 
 CPen::CPen(int style, int width, COLORREF color)
 {
@@ -97,9 +93,7 @@ BOOL CPen::CreatePen(int style, int width, const LOGBRUSH* brush, int styleCount
     return Attach(::ExtCreatePen(style, width, brush, styleCount, styles));
 }
 
-CBrush::CBrush()
-{
-}
+CBrush::CBrush() {}
 
 CBrush::CBrush(COLORREF color)
 {
@@ -121,15 +115,14 @@ BOOL CBrush::CreatePatternBrush(CBitmap* bitmap)
     return Attach(::CreatePatternBrush(*bitmap));
 }
 
-CFont::CFont()
-{
-}
+CFont::CFont() {}
 
-BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline, BYTE strikeOut, BYTE charSet,
-                       BYTE outPrecision, BYTE clipPrecision, BYTE quality, BYTE pitchAndFamily, LPCTSTR faceName)
+BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline,
+                       BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
+                       BYTE pitchAndFamily, LPCTSTR faceName)
 {
-    return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut, charSet, outPrecision, clipPrecision,
-                                quality, pitchAndFamily, faceName));
+    return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut, charSet,
+                                outPrecision, clipPrecision, quality, pitchAndFamily, faceName));
 }
 
 BOOL CFont::CreatePointFont(int tenthsOfPoint, LPCTSTR faceName, CDC* dc)
@@ -154,9 +147,7 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* font, CDC* dc)
     return CreateFontIndirect(&scaled);
 }
 
-CBitmap::CBitmap()
-{
-}
+CBitmap::CBitmap() {}
 
 BOOL CBitmap::LoadBitmap(LPCTSTR resourceName)
 {
@@ -188,9 +179,7 @@ CSize CBitmap::SetBitmapDimension(int width, int height)
     return previous;
 }
 
-CPalette::CPalette()
-{
-}
+CPalette::CPalette() {}
 
 int CPalette::GetEntryCount()
 {
@@ -199,6 +188,4 @@ int CPalette::GetEntryCount()
     return count;
 }
 
-CRgn::CRgn()
-{
-}
+CRgn::CRgn() {}

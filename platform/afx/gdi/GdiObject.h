@@ -2,10 +2,11 @@
 //
 //   CFont font;
 //   font.CreatePointFont(90, L"Tahoma");      // deleted with the object
-//   CBrush* gray = CBrush::FromHandle(static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));   // temporary: valid until the next idle time
+//   CBrush* gray = CBrush::FromHandle(static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));   // temporary: valid until
+//   the next idle time
 //
-// An object made by FromHandle() never owns its handle. The destructor of any other deletes the handle; a handle that is still selected into a device
-// context is not deleted by Windows, so select it out first.
+// An object made by FromHandle() never owns its handle. The destructor of any other deletes the handle; a handle that
+// is still selected into a device context is not deleted by Windows, so select it out first.
 #pragma once
 
 #include "afx/core/Geometry.h"
@@ -98,8 +99,9 @@ public:
     static CFont* PASCAL FromHandle(HFONT font) { return static_cast<CFont*>(CGdiObject::FromHandle(font)); }
 
     BOOL CreateFontIndirect(const LOGFONT* font) { return Attach(::CreateFontIndirectW(font)); }
-    BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline, BYTE strikeOut, BYTE charSet,
-                    BYTE outPrecision, BYTE clipPrecision, BYTE quality, BYTE pitchAndFamily, LPCTSTR faceName);
+    BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline,
+                    BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
+                    BYTE pitchAndFamily, LPCTSTR faceName);
     // The height counts tenths of a point; without a device context the screen's resolution holds.
     BOOL CreatePointFont(int tenthsOfPoint, LPCTSTR faceName, CDC* dc = NULL);
     BOOL CreatePointFontIndirect(const LOGFONT* font, CDC* dc = NULL);
@@ -140,11 +142,17 @@ public:
     CPalette();
 
     operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
-    static CPalette* PASCAL FromHandle(HPALETTE palette) { return static_cast<CPalette*>(CGdiObject::FromHandle(palette)); }
+    static CPalette* PASCAL FromHandle(HPALETTE palette)
+    {
+        return static_cast<CPalette*>(CGdiObject::FromHandle(palette));
+    }
 
     BOOL CreatePalette(LPLOGPALETTE palette) { return Attach(::CreatePalette(palette)); }
     int GetEntryCount();
-    UINT GetPaletteEntries(UINT start, UINT count, LPPALETTEENTRY entries) const { return ::GetPaletteEntries(*this, start, count, entries); }
+    UINT GetPaletteEntries(UINT start, UINT count, LPPALETTEENTRY entries) const
+    {
+        return ::GetPaletteEntries(*this, start, count, entries);
+    }
 };
 
 class AFX_API CRgn : public CGdiObject
@@ -156,17 +164,29 @@ public:
     operator HRGN() const { return static_cast<HRGN>(m_hObject); }
     static CRgn* PASCAL FromHandle(HRGN region) { return static_cast<CRgn*>(CGdiObject::FromHandle(region)); }
 
-    BOOL CreateRectRgn(int left, int top, int right, int bottom) { return Attach(::CreateRectRgn(left, top, right, bottom)); }
+    BOOL CreateRectRgn(int left, int top, int right, int bottom)
+    {
+        return Attach(::CreateRectRgn(left, top, right, bottom));
+    }
     BOOL CreateRectRgnIndirect(LPCRECT rect) { return Attach(::CreateRectRgnIndirect(rect)); }
-    BOOL CreateEllipticRgn(int left, int top, int right, int bottom) { return Attach(::CreateEllipticRgn(left, top, right, bottom)); }
-    BOOL CreatePolygonRgn(const POINT* points, int count, int mode) { return Attach(::CreatePolygonRgn(points, count, mode)); }
+    BOOL CreateEllipticRgn(int left, int top, int right, int bottom)
+    {
+        return Attach(::CreateEllipticRgn(left, top, right, bottom));
+    }
+    BOOL CreatePolygonRgn(const POINT* points, int count, int mode)
+    {
+        return Attach(::CreatePolygonRgn(points, count, mode));
+    }
     BOOL CreateRoundRectRgn(int left, int top, int right, int bottom, int width, int height)
     {
         return Attach(::CreateRoundRectRgn(left, top, right, bottom, width, height));
     }
 
     void SetRectRgn(LPCRECT rect) { ::SetRectRgn(*this, rect->left, rect->top, rect->right, rect->bottom); }
-    int CombineRgn(const CRgn* first, const CRgn* second, int mode) { return ::CombineRgn(*this, *first, *second, mode); }
+    int CombineRgn(const CRgn* first, const CRgn* second, int mode)
+    {
+        return ::CombineRgn(*this, *first, *second, mode);
+    }
     int CopyRgn(const CRgn* source) { return ::CombineRgn(*this, *source, NULL, RGN_COPY); }
     BOOL EqualRgn(const CRgn* other) const { return ::EqualRgn(*this, *other); }
     int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }

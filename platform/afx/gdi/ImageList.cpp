@@ -7,9 +7,7 @@
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
 
-CImageList::CImageList() : m_hImageList(NULL)
-{
-}
+CImageList::CImageList() : m_hImageList(NULL) {}
 
 CImageList::~CImageList()
 {
@@ -28,7 +26,8 @@ BOOL CImageList::Create(UINT bitmapId, int cx, int grow, COLORREF mask)
 
 BOOL CImageList::Create(LPCTSTR bitmapName, int cx, int grow, COLORREF mask)
 {
-    return Attach(ImageList_LoadImageW(AfxFindResourceHandle(bitmapName, RT_BITMAP), bitmapName, cx, grow, mask, IMAGE_BITMAP, 0));
+    return Attach(ImageList_LoadImageW(AfxFindResourceHandle(bitmapName, RT_BITMAP), bitmapName, cx, grow, mask,
+                                       IMAGE_BITMAP, 0));
 }
 
 BOOL CImageList::Create(CImageList* source)
@@ -82,7 +81,8 @@ BOOL CImageList::DeleteImageList()
 
 int CImageList::Add(CBitmap* image, CBitmap* mask)
 {
-    return ImageList_Add(m_hImageList, static_cast<HBITMAP>(image->GetSafeHandle()), static_cast<HBITMAP>(mask->GetSafeHandle()));
+    return ImageList_Add(m_hImageList, static_cast<HBITMAP>(image->GetSafeHandle()),
+                         static_cast<HBITMAP>(mask->GetSafeHandle()));
 }
 
 int CImageList::Add(CBitmap* image, COLORREF mask)
@@ -92,7 +92,8 @@ int CImageList::Add(CBitmap* image, COLORREF mask)
 
 BOOL CImageList::Replace(int image, CBitmap* bitmap, CBitmap* mask)
 {
-    return ImageList_Replace(m_hImageList, image, static_cast<HBITMAP>(bitmap->GetSafeHandle()), static_cast<HBITMAP>(mask->GetSafeHandle()));
+    return ImageList_Replace(m_hImageList, image, static_cast<HBITMAP>(bitmap->GetSafeHandle()),
+                             static_cast<HBITMAP>(mask->GetSafeHandle()));
 }
 
 BOOL CImageList::Draw(CDC* dc, int image, POINT point, UINT style)
@@ -100,9 +101,11 @@ BOOL CImageList::Draw(CDC* dc, int image, POINT point, UINT style)
     return ImageList_Draw(m_hImageList, image, dc->GetSafeHdc(), point.x, point.y, style);
 }
 
-BOOL CImageList::DrawEx(CDC* dc, int image, POINT point, SIZE size, COLORREF background, COLORREF foreground, UINT style)
+BOOL CImageList::DrawEx(CDC* dc, int image, POINT point, SIZE size, COLORREF background, COLORREF foreground,
+                        UINT style)
 {
-    return ImageList_DrawEx(m_hImageList, image, dc->GetSafeHdc(), point.x, point.y, size.cx, size.cy, background, foreground, style);
+    return ImageList_DrawEx(m_hImageList, image, dc->GetSafeHdc(), point.x, point.y, size.cx, size.cy, background,
+                            foreground, style);
 }
 
 BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* parameters)

@@ -5,7 +5,8 @@
 //   images.Add(icon);                       // the list copies the icon
 //   tree.SetImageList(&images, TVSIL_NORMAL);
 //
-// The object owns its list. A tree or list view only borrows it (a list view without LVS_SHAREIMAGELISTS destroys it at its own end).
+// The object owns its list. A tree or list view only borrows it (a list view without LVS_SHAREIMAGELISTS destroys it at
+// its own end).
 #pragma once
 
 #include "afx/gdi/GdiObject.h"
@@ -50,7 +51,10 @@ public:
     BOOL Remove(int image) { return ImageList_Remove(m_hImageList, image); }
     BOOL Replace(int image, CBitmap* bitmap, CBitmap* mask);
     int Replace(int image, HICON icon) { return ImageList_ReplaceIcon(m_hImageList, image, icon); }
-    BOOL Copy(int to, int from, UINT flags = ILCF_MOVE) { return ImageList_Copy(m_hImageList, to, m_hImageList, from, flags); }
+    BOOL Copy(int to, int from, UINT flags = ILCF_MOVE)
+    {
+        return ImageList_Copy(m_hImageList, to, m_hImageList, from, flags);
+    }
     // The caller destroys the icon.
     HICON ExtractIcon(int image) { return ImageList_GetIcon(m_hImageList, image, ILD_NORMAL); }
     BOOL SetOverlayImage(int image, int overlay) { return ImageList_SetOverlayImage(m_hImageList, image, overlay); }

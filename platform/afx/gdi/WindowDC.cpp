@@ -14,7 +14,7 @@ void AttachOrThrow(CDC& dc, HDC handle)
     if (!dc.Attach(handle))
         AfxThrowResourceException();
 }
-}
+} // namespace
 
 CClientDC::CClientDC(CWnd* window) : m_hWnd(window->GetSafeHwnd())
 {

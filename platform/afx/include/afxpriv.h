@@ -3,11 +3,11 @@
 
 #include <afxwin.h>
 
-#define WM_QUERYAFXWNDPROC 0x0360 // result 1 from a window of this framework
-#define WM_SIZEPARENT 0x0361 // lParam: AFX_SIZEPARENTPARAMS*
+#define WM_QUERYAFXWNDPROC 0x0360  // result 1 from a window of this framework
+#define WM_SIZEPARENT 0x0361       // lParam: AFX_SIZEPARENTPARAMS*
 #define WM_SETMESSAGESTRING 0x0362 // wParam: string id or 0, lParam: LPCTSTR when wParam is 0
-#define WM_IDLEUPDATECMDUI 0x0363 // wParam: BOOL, disable items without a handler
-#define WM_INITIALUPDATE 0x0364 // sent to the views of a frame once everything is created
+#define WM_IDLEUPDATECMDUI 0x0363  // wParam: BOOL, disable items without a handler
+#define WM_INITIALUPDATE 0x0364    // sent to the views of a frame once everything is created
 #define WM_COMMANDHELP 0x0365
 #define WM_HELPHITTEST 0x0366
 #define WM_EXITHELPMODE 0x0367
@@ -16,7 +16,7 @@
 #define WM_KICKIDLE 0x036A // sent to modal windows by other idle loops; result: more idle work wanted
 #define WM_QUERYCENTERWND 0x036B
 #define WM_DISABLEMODAL 0x036C // sent before a top-level window is disabled; result: stay enabled
-#define WM_FLOATSTATUS 0x036D // wParam: FS_ bits
+#define WM_FLOATSTATUS 0x036D  // wParam: FS_ bits
 #define WM_ACTIVATETOPLEVEL 0x036E
 #define WM_POPMESSAGESTRING 0x0375
 
@@ -37,9 +37,9 @@ enum
 struct AFX_SIZEPARENTPARAMS
 {
     HDWP hDWP;
-    RECT rect; // client coordinates of the parent; what is left
+    RECT rect;      // client coordinates of the parent; what is left
     SIZE sizeTotal; // sum of what was taken
-    BOOL bStretch; // bars cover their whole edge
+    BOOL bStretch;  // bars cover their whole edge
 };
 
 // Moves a child within a layout; rect in client coordinates of its parent. Nothing happens when it is there already.

@@ -39,7 +39,7 @@ public:
 
     BOOL m_bEnableChanged = FALSE;
     BOOL m_bContinueRouting = FALSE;
-    UINT m_nIndexMax = 0; // number of items in m_pMenu
+    UINT m_nIndexMax = 0;           // number of items in m_pMenu
     CMenu* m_pParentMenu = nullptr; // NULL or the menu that holds m_pMenu
 };
 

@@ -6,8 +6,8 @@
 class CCmdUI;
 
 // Codes of OnCmdMsg besides the notification codes of controls.
-#define CN_COMMAND 0                       // a menu or accelerator command
-#define CN_UPDATE_COMMAND_UI ((UINT)(-1))  // extra: CCmdUI*
+#define CN_COMMAND 0                      // a menu or accelerator command
+#define CN_UPDATE_COMMAND_UI ((UINT)(-1)) // extra: CCmdUI*
 #define CN_EVENT ((UINT)(-2))
 
 // Filled instead of a call when the caller of OnCmdMsg only asks who would handle the command.
@@ -41,7 +41,8 @@ public:
     // Offers a command or notification to the handlers of this object. TRUE: handled.
     // code: low word the notification code, high word the message (0 stands for WM_COMMAND, WM_NOTIFY for
     // notifications, WM_REFLECT_BASE + message for reflected ones); or CN_UPDATE_COMMAND_UI.
-    // extra: AFX_NOTIFY* or CCmdUI* according to the code. handlerInfo: not null asks for the handler without calling it.
+    // extra: AFX_NOTIFY* or CCmdUI* according to the code. handlerInfo: not null asks for the handler without calling
+    // it.
     virtual BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo);
 
     // Called once when the object ends its life in the framework (COM clients override it); deletes the object.

@@ -11,15 +11,23 @@
 
 // Any window message; registered messages; messages posted to a thread.
 #define ON_MESSAGE(message, memberFxn)                                                                                 \
-    {message, 0, 0, 0, AfxSig_l_wl, _AFX_HANDLER(LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)},
+    {message, 0, 0, 0, AfxSig_l_wl, _AFX_HANDLER(LRESULT(CWnd::*)(WPARAM, LPARAM), memberFxn)},
 #define ON_REGISTERED_MESSAGE(numberVariable, memberFxn)                                                               \
-    {AFX_REGISTERED_MESSAGE, 0, 0, 0, (UINT_PTR)&numberVariable,                                                       \
-     _AFX_HANDLER(LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)},
+    {AFX_REGISTERED_MESSAGE,                                                                                           \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     (UINT_PTR)&numberVariable,                                                                                        \
+     _AFX_HANDLER(LRESULT(CWnd::*)(WPARAM, LPARAM), memberFxn)},
 #define ON_THREAD_MESSAGE(message, memberFxn)                                                                          \
-    {message, 0, 0, 0, AfxSigThread, _AFX_HANDLER(void (CWinThread::*)(WPARAM, LPARAM), memberFxn)},
+    {message, 0, 0, 0, AfxSigThread, _AFX_HANDLER(void(CWinThread::*)(WPARAM, LPARAM), memberFxn)},
 #define ON_REGISTERED_THREAD_MESSAGE(numberVariable, memberFxn)                                                        \
-    {AFX_REGISTERED_MESSAGE, 0, 0, 0, (UINT_PTR)&numberVariable,                                                       \
-     _AFX_HANDLER(void (CWinThread::*)(WPARAM, LPARAM), memberFxn)},
+    {AFX_REGISTERED_MESSAGE,                                                                                           \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     (UINT_PTR)&numberVariable,                                                                                        \
+     _AFX_HANDLER(void(CWinThread::*)(WPARAM, LPARAM), memberFxn)},
 
 // Commands.
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
@@ -48,17 +56,17 @@
 // Notifications given back to the control that sent them. The plain form hides them from the parent, the _EX form
 // lets the parent have them too when the handler returns FALSE.
 #define ON_CONTROL_REFLECT(code, memberFxn)                                                                            \
-    _AFX_ON_ID(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AfxSigCmd_v, void (CCmdTarget::*)(), memberFxn)
+    _AFX_ON_ID(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AfxSigCmd_v, void(CCmdTarget::*)(), memberFxn)
 #define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                                         \
-    _AFX_ON_ID(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AfxSigCmd_b, BOOL (CCmdTarget::*)(), memberFxn)
+    _AFX_ON_ID(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, AfxSigCmd_b, BOOL(CCmdTarget::*)(), memberFxn)
 #define ON_NOTIFY_REFLECT(code, memberFxn)                                                                             \
-    _AFX_ON_ID(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, AfxSigNotify_v,                                     \
-               void (CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn)
+    _AFX_ON_ID(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, AfxSigNotify_v, void(CCmdTarget::*)(NMHDR*, LRESULT*),         \
+               memberFxn)
 #define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                          \
-    _AFX_ON_ID(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, AfxSigNotify_b,                                     \
-               BOOL (CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn)
+    _AFX_ON_ID(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, AfxSigNotify_b, BOOL(CCmdTarget::*)(NMHDR*, LRESULT*),         \
+               memberFxn)
 #define ON_UPDATE_COMMAND_UI_REFLECT(memberFxn)                                                                        \
-    _AFX_ON_ID(WM_REFLECT_BASE + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0, AfxSigCmdUI, void (CCmdTarget::*)(CCmdUI*),   \
+    _AFX_ON_ID(WM_REFLECT_BASE + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0, AfxSigCmdUI, void(CCmdTarget::*)(CCmdUI*),    \
                memberFxn)
 
 // Reflected owner-draw, colour and scroll messages.
@@ -230,5 +238,4 @@
 // clang-format on
 
 // A window message without arguments and result.
-#define ON_MESSAGE_VOID(message, memberFxn)                                                                            \
-    {message, 0, 0, 0, AfxSig_v_v, _AFX_HANDLER(void (CWnd::*)(), memberFxn)},
+#define ON_MESSAGE_VOID(message, memberFxn) {message, 0, 0, 0, AfxSig_v_v, _AFX_HANDLER(void(CWnd::*)(), memberFxn)},

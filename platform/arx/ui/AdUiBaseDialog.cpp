@@ -32,9 +32,7 @@ CAdUiBaseDialog::CAdUiBaseDialog(UINT idd, CWnd* pParent, HINSTANCE hDialogResou
 {
 }
 
-CAdUiBaseDialog::~CAdUiBaseDialog()
-{
-}
+CAdUiBaseDialog::~CAdUiBaseDialog() {}
 
 BOOL CAdUiBaseDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
 {

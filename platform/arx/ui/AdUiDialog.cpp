@@ -21,9 +21,7 @@ CAdUiDialog::CAdUiDialog(UINT idd, CWnd* pParent, HINSTANCE hDialogResource)
 {
 }
 
-CAdUiDialog::~CAdUiDialog()
-{
-}
+CAdUiDialog::~CAdUiDialog() {}
 
 LPCTSTR CAdUiDialog::GetDialogName()
 {
@@ -92,7 +90,8 @@ void CAdUiDialog::RestorePlace()
 {
     const CString text = AfxGetApp()->GetProfileString(profileSection, m_name);
     CRect rect;
-    const int numbers = std::swscanf(text.GetString(), L"%ld,%ld,%ld,%ld", &rect.left, &rect.top, &rect.right, &rect.bottom);
+    const int numbers =
+        std::swscanf(text.GetString(), L"%ld,%ld,%ld,%ld", &rect.left, &rect.top, &rect.right, &rect.bottom);
     if (numbers != 4 || rect.IsRectEmpty() || ::MonitorFromRect(&rect, MONITOR_DEFAULTTONULL) == NULL)
         return;
     if ((GetStyle() & WS_THICKFRAME) != 0)

@@ -61,9 +61,7 @@ BEGIN_MESSAGE_MAP(CAdUiDockControlBar, CControlBar)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
 
-CAdUiDockControlBar::CAdUiDockControlBar(int /*nStyle*/) : m_parts(new arxui::DockBarParts)
-{
-}
+CAdUiDockControlBar::CAdUiDockControlBar(int /*nStyle*/) : m_parts(new arxui::DockBarParts) {}
 
 CAdUiDockControlBar::~CAdUiDockControlBar()
 {
@@ -150,7 +148,8 @@ void CAdUiDockControlBar::RestoreControlBar(int nPreferredDockBar, const CRect* 
 BOOL CAdUiDockControlBar::DockControlBar(UINT nDockBarID, LPCRECT lpRect)
 {
     const arxui::DockSide side = nDockBarID == 0 ? m_parts->lastDocked : arxui::SideOfDockBar(nDockBarID);
-    if (GetSafeHwnd() == NULL || side == arxui::DockSide::Floating || !arxui::IsSideAllowed(side, m_parts->allowedSides))
+    if (GetSafeHwnd() == NULL || side == arxui::DockSide::Floating ||
+        !arxui::IsSideAllowed(side, m_parts->allowedSides))
         return FALSE;
     if (lpRect != NULL && !::IsRectEmpty(lpRect))
     {
@@ -230,13 +229,9 @@ BOOL CAdUiDockControlBar::OnClosing()
     return TRUE;
 }
 
-void CAdUiDockControlBar::SizeChanged(CRect* /*lpRect*/, BOOL /*bFloating*/, int /*flags*/)
-{
-}
+void CAdUiDockControlBar::SizeChanged(CRect* /*lpRect*/, BOOL /*bFloating*/, int /*flags*/) {}
 
-void CAdUiDockControlBar::InitFloatingPosition(CRect* /*pRect*/)
-{
-}
+void CAdUiDockControlBar::InitFloatingPosition(CRect* /*pRect*/) {}
 
 CSize CAdUiDockControlBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz)
 {
@@ -392,8 +387,8 @@ void CAdUiDockControlBar::FrameMoved(const CRect& rect)
         m_parts->layout.floating.bottom = rect.top + before.Height();
 }
 
-// A client may move a floating bar as if it were a top-level window: the frame around it follows. A move is read as screen
-// coordinates, because that is what GetWindowRect gave the client.
+// A client may move a floating bar as if it were a top-level window: the frame around it follows. A move is read as
+// screen coordinates, because that is what GetWindowRect gave the client.
 void CAdUiDockControlBar::MoveFrameInstead(WINDOWPOS& position)
 {
     const UINT unmoved = SWP_NOMOVE | SWP_NOSIZE;

@@ -38,9 +38,7 @@ bool CAdUiDockControlBar::HasMenu() const
     return true;
 }
 
-void CAdUiDockControlBar::LayOutContents(const CRect& /*area*/)
-{
-}
+void CAdUiDockControlBar::LayOutContents(const CRect& /*area*/) {}
 
 void CAdUiDockControlBar::DrawContents(CDC& dc, const CRect& area)
 {
@@ -134,7 +132,7 @@ void CAdUiDockControlBar::OnPaint()
     const arxui::BackBuffer buffer(paint.GetSafeHdc(), client.Width(), client.Height());
     arxui::FillColour(buffer.Get(), client, arxui::colours::splitter);
     m_parts->drawnActive = IsActiveBar();
-    const arxui::CaptionLook look{m_parts->name.GetString(),      m_parts->drawnActive, m_parts->roll.IsRolledUp(),
+    const arxui::CaptionLook look{m_parts->name.GetString(),   m_parts->drawnActive, m_parts->roll.IsRolledUp(),
                                   m_parts->roll.IsAutomatic(), m_parts->hot,         m_parts->pressed};
     arxui::DrawCaption(buffer.Get(), m_parts->caption, look, arxui::UiFont());
     CDC dc;
@@ -151,8 +149,8 @@ int CAdUiDockControlBar::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT 
     ScreenToClient(&point);
     if (!IsFloating() || arxui::CaptionPartAt(m_parts->caption, point) == arxui::CaptionPart::None)
         return CControlBar::OnMouseActivate(pDesktopWnd, nHitTest, message);
-    // Moving or closing a palette is no reason to take the focus from where the user works; and a frame that is activated by
-    // the press loses the mouse capture again where the desktop hands the focus over late.
+    // Moving or closing a palette is no reason to take the focus from where the user works; and a frame that is
+    // activated by the press loses the mouse capture again where the desktop hands the focus over late.
     m_parts->floating->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     return MA_NOACTIVATE;
 }

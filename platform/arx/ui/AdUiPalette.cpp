@@ -12,9 +12,7 @@ BEGIN_MESSAGE_MAP(CAdUiPalette, CWnd)
     ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
-CAdUiPalette::CAdUiPalette() : m_set(NULL), m_paletteStyle(0)
-{
-}
+CAdUiPalette::CAdUiPalette() : m_set(NULL), m_paletteStyle(0) {}
 
 CAdUiPalette::~CAdUiPalette()
 {
@@ -73,9 +71,7 @@ BOOL CAdUiPalette::Save(IUnknown* /*pUnk*/)
     return TRUE;
 }
 
-void CAdUiPalette::OnSetActive()
-{
-}
+void CAdUiPalette::OnSetActive() {}
 
 bool CAdUiPalette::CanFrameworkTakeFocus()
 {

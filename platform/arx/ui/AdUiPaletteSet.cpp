@@ -27,7 +27,8 @@ BEGIN_MESSAGE_MAP(CAdUiPaletteSet, CAdUiDockControlBar)
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
-CAdUiPaletteSet::CAdUiPaletteSet(int nStyle) : CAdUiDockControlBar(nStyle), m_active(-1), m_setStyle(0), m_opacity(solid)
+CAdUiPaletteSet::CAdUiPaletteSet(int nStyle)
+    : CAdUiDockControlBar(nStyle), m_active(-1), m_setStyle(0), m_opacity(solid)
 {
 }
 
@@ -259,7 +260,8 @@ void CAdUiPaletteSet::DrawContents(CDC& dc, const CRect& area)
         CRect tab = TabAt(tabs, i);
         const bool active = i == m_active;
         arxui::FillColour(dc.GetSafeHdc(), tab, active ? arxui::colours::tabActive : arxui::colours::tabIdle);
-        dc.DrawText(m_palettes[i]->GetName(), &tab, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+        dc.DrawText(m_palettes[i]->GetName(), &tab,
+                    DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     }
 }
 

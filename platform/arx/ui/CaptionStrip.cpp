@@ -58,7 +58,8 @@ void DrawCross(HDC dc, const RECT& box)
 void DrawRoll(HDC dc, const RECT& box, bool pointsDown)
 {
     const int middle = (box.left + box.right) / 2;
-    DrawGlyphLine(dc, box.left, pointsDown ? box.top : box.bottom - 1, box.right, pointsDown ? box.top : box.bottom - 1);
+    DrawGlyphLine(dc, box.left, pointsDown ? box.top : box.bottom - 1, box.right,
+                  pointsDown ? box.top : box.bottom - 1);
     for (int row = 0; row < 4; ++row)
     {
         const int y = pointsDown ? box.bottom - 1 - row : box.top + row;

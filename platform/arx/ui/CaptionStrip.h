@@ -30,7 +30,8 @@ struct CaptionStrip
     bool upright = false;
 };
 
-// Lays the strip out along the top of `area`, or, upright, along its left side (a set rolled up at the left or right edge).
+// Lays the strip out along the top of `area`, or, upright, along its left side (a set rolled up at the left or right
+// edge).
 ARX_API CaptionStrip LayOutCaption(const RECT& area, bool upright, bool hasRollUp, bool hasClose);
 
 ARX_API CaptionPart CaptionPartAt(const CaptionStrip& caption, POINT point);

@@ -33,15 +33,15 @@ ARX_API bool IsSideAllowed(DockSide side, DWORD allowed);
 // True for the sides whose thickness is a width.
 ARX_API bool IsUpright(DockSide side);
 
-// The side that a bar dragged with the cursor at `cursor` docks to: the allowed edge of `area` that is nearest among those
-// within `reach`; Floating when none is.
+// The side that a bar dragged with the cursor at `cursor` docks to: the allowed edge of `area` that is nearest among
+// those within `reach`; Floating when none is.
 ARX_API DockSide DockSideAt(const RECT& area, POINT cursor, DWORD allowed, int reach);
 
 // Cuts a strip of `thickness` off the given side of `area` and returns it. `area` becomes the rest.
 ARX_API RECT TakeEdge(RECT& area, DockSide side, int thickness);
 
-// The thickness that is possible: at least `minimum`, and leaving `leave` of the `available` pixels to others; where both
-// can't be, the minimum wins.
+// The thickness that is possible: at least `minimum`, and leaving `leave` of the `available` pixels to others; where
+// both can't be, the minimum wins.
 ARX_API int LimitThickness(int wanted, int minimum, int available, int leave);
 
 // The thickness after the splitter went from `from` to `to`.
@@ -57,8 +57,8 @@ ARX_API RECT LimitSize(const RECT& wanted, SIZE minimum, SIZE maximum);
 // The rectangle moved so that its caption can be reached inside `screen`.
 ARX_API RECT KeepReachable(const RECT& wanted, const RECT& screen);
 
-// A dragged floating rectangle: it moves with the cursor; when the grab point lies outside (a bar that was docked wide and
-// floats narrow), it is moved under the cursor.
+// A dragged floating rectangle: it moves with the cursor; when the grab point lies outside (a bar that was docked wide
+// and floats narrow), it is moved under the cursor.
 ARX_API RECT DraggedRect(const RECT& before, POINT grab, POINT cursor);
 
 } // namespace arxui

@@ -56,8 +56,8 @@ void DockPreview::Show(HWND owner, const CRect& rect)
 {
     if (m_window == nullptr)
     {
-        m_window = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT, PreviewClass(), L"", WS_POPUP,
-                                   rect.left, rect.top, rect.Width(), rect.Height(), owner, nullptr,
+        m_window = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT, PreviewClass(), L"",
+                                   WS_POPUP, rect.left, rect.top, rect.Width(), rect.Height(), owner, nullptr,
                                    GetModuleHandleW(nullptr), nullptr);
     }
     SetWindowRgn(m_window, HollowRegion(rect.Width(), rect.Height()), TRUE);

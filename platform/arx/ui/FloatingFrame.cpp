@@ -14,9 +14,7 @@ BEGIN_MESSAGE_MAP(FloatingFrame, CWnd)
     ON_WM_ACTIVATE()
 END_MESSAGE_MAP()
 
-FloatingFrame::FloatingFrame(CAdUiDockControlBar& bar) : m_bar(bar)
-{
-}
+FloatingFrame::FloatingFrame(CAdUiDockControlBar& bar) : m_bar(bar) {}
 
 FloatingFrame::~FloatingFrame()
 {
@@ -26,7 +24,8 @@ FloatingFrame::~FloatingFrame()
 bool FloatingFrame::Create(CWnd* owner, const CRect& rect, const CString& title)
 {
     const CString className = AfxRegisterWndClass(CS_DBLCLKS, LoadCursor(NULL, IDC_ARROW));
-    return CreateEx(WS_EX_TOOLWINDOW, className, title, WS_POPUP | WS_THICKFRAME | WS_CLIPCHILDREN, rect, owner, 0) != FALSE;
+    return CreateEx(WS_EX_TOOLWINDOW, className, title, WS_POPUP | WS_THICKFRAME | WS_CLIPCHILDREN, rect, owner, 0) !=
+           FALSE;
 }
 
 void FloatingFrame::TakeBar()

@@ -1,4 +1,5 @@
-// The popup frame that holds a floating dock bar. The bar fills it and draws the caption; the frame has the sizing border.
+// The popup frame that holds a floating dock bar. The bar fills it and draws the caption; the frame has the sizing
+// border.
 #pragma once
 
 #include <afxwin.h>

@@ -1,5 +1,5 @@
-// Roll-up of a floating palette set as a state machine without a window: while automatic roll-up is on, the set rolls up to its
-// caption some time after the cursor left it, and rolls down when the cursor rests on the caption.
+// Roll-up of a floating palette set as a state machine without a window: while automatic roll-up is on, the set rolls
+// up to its caption some time after the cursor left it, and rolls down when the cursor rests on the caption.
 //
 // Times are milliseconds of a wrapping 32-bit clock (GetTickCount), given by the caller.
 #pragma once
@@ -33,7 +33,8 @@ public:
     // Rolls up or down at once (the button of a docked set, a restored layout).
     Change SetRolledUp(bool rolledUp);
 
-    // One look at the cursor. `held` is true while the set must stay open: it has the focus, is dragged or shows a menu.
+    // One look at the cursor. `held` is true while the set must stay open: it has the focus, is dragged or shows a
+    // menu.
     Change Observe(bool cursorInside, bool held, DWORD now);
 
 private:

@@ -8,7 +8,8 @@ using arxhost::ReadArguments;
 
 TEST(CommandLine, DrawingsModulesAndScriptAreTold)
 {
-    const HostArguments read = ReadArguments({L"a.dxf", L"/ld", L"m.arx", L"b.dxf", L"-LD", L"n.arx", L"/B", L"tour.scr"});
+    const HostArguments read =
+        ReadArguments({L"a.dxf", L"/ld", L"m.arx", L"b.dxf", L"-LD", L"n.arx", L"/B", L"tour.scr"});
     EXPECT_EQ(L"", read.error);
     EXPECT_EQ((std::vector<std::wstring>{L"a.dxf", L"b.dxf"}), read.drawings);
     EXPECT_EQ((std::vector<std::wstring>{L"m.arx", L"n.arx"}), read.modules);

@@ -23,15 +23,14 @@ protected:
     void TearDown() override { m_parent.DestroyWindow(); }
 
     // Starts to edit a label. The window may still be on its way to the foreground, which would end the edit at once.
-    template <class CONTROL, class ITEM> static bool OpensLabel(CONTROL& control, ITEM item)
+    template<class CONTROL, class ITEM>
+    static bool OpensLabel(CONTROL& control, ITEM item)
     {
-        return WaitFor(
-            [&control, item]
-            {
-                control.SetFocus();
-                const CEdit* const edit = control.EditLabel(item);
-                return edit != nullptr && edit == control.GetEditControl();
-            });
+        return WaitFor([&control, item] {
+            control.SetFocus();
+            const CEdit* const edit = control.EditLabel(item);
+            return edit != nullptr && edit == control.GetEditControl();
+        });
     }
 
     static constexpr DWORD Visible = WS_CHILD | WS_VISIBLE;

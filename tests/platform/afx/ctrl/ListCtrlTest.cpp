@@ -8,7 +8,8 @@ protected:
     void SetUp() override
     {
         ControlFixture::SetUp();
-        ASSERT_TRUE(m_list.Create(Visible | LVS_REPORT | LVS_EDITLABELS | LVS_SHOWSELALWAYS, m_place, &m_parent, ControlId));
+        ASSERT_TRUE(
+            m_list.Create(Visible | LVS_REPORT | LVS_EDITLABELS | LVS_SHOWSELALWAYS, m_place, &m_parent, ControlId));
         EXPECT_EQ(0, m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100));
         EXPECT_EQ(1, m_list.InsertColumn(1, L"Size", LVCFMT_RIGHT, 60, 1));
         const wchar_t* const names[] = {L"delta", L"alpha", L"charlie", L"bravo"};

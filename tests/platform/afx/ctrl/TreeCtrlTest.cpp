@@ -18,10 +18,7 @@ protected:
         ASSERT_NE(nullptr, m_grandchild);
     }
 
-    static int CALLBACK CompareData(LPARAM one, LPARAM two, LPARAM)
-    {
-        return static_cast<int>(two - one);
-    }
+    static int CALLBACK CompareData(LPARAM one, LPARAM two, LPARAM) { return static_cast<int>(two - one); }
 
     CTreeCtrl m_tree;
     HTREEITEM m_root = nullptr;

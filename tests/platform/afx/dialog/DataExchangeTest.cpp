@@ -32,7 +32,8 @@ public:
         form.Edit(IDC_TEXT, 10, 10).Edit(IDC_FIRST_EDIT, 10, 100);
         form.Button(IDC_CHECK, L"Check", 10, 30, BS_AUTO3STATE);
         form.Button(IDC_RADIO_1, L"1", 10, 50, BS_AUTORADIOBUTTON | WS_GROUP);
-        form.Button(IDC_RADIO_2, L"2", 60, 50, BS_AUTORADIOBUTTON).Button(IDC_RADIO_3, L"3", 110, 50, BS_AUTORADIOBUTTON);
+        form.Button(IDC_RADIO_2, L"2", 60, 50, BS_AUTORADIOBUTTON)
+            .Button(IDC_RADIO_3, L"3", 110, 50, BS_AUTORADIOBUTTON);
         form.Control(L"LISTBOX", L"", IDC_LIST, WS_GROUP | WS_BORDER, 80, 5, 40, 40);
         form.Control(L"COMBOBOX", L"", IDC_COMBO, CBS_DROPDOWN, 130, 5, 40, 60);
         form.Control(L"COMBOBOX", L"", IDC_DROPLIST, CBS_DROPDOWNLIST, 130, 30, 40, 60);
@@ -66,19 +67,22 @@ protected:
     }
     void TearDown() override { m_dialog.DestroyWindow(); }
 
-    template <class VALUE> void Show(int id, VALUE value, void(AFXAPI* ddx)(CDataExchange*, int, VALUE&))
+    template<class VALUE>
+    void Show(int id, VALUE value, void(AFXAPI* ddx)(CDataExchange*, int, VALUE&))
     {
         m_dialog.m_exchange = [&](CDataExchange* exchange) { ddx(exchange, id, value); };
         EXPECT_TRUE(m_dialog.UpdateData(FALSE));
     }
 
-    template <class VALUE> BOOL Read(int id, VALUE& value, void(AFXAPI* ddx)(CDataExchange*, int, VALUE&))
+    template<class VALUE>
+    BOOL Read(int id, VALUE& value, void(AFXAPI* ddx)(CDataExchange*, int, VALUE&))
     {
         m_dialog.m_exchange = [&](CDataExchange* exchange) { ddx(exchange, id, value); };
         return m_dialog.UpdateData(TRUE);
     }
 
-    template <class VALUE> void ExpectText(const wchar_t* text, VALUE value)
+    template<class VALUE>
+    void ExpectText(const wchar_t* text, VALUE value)
     {
         Show<VALUE>(IDC_TEXT, value, &DDX_Text);
         EXPECT_STREQ(text, Text(IDC_TEXT));
@@ -178,8 +182,7 @@ TEST_F(DataExchange, AFailureSelectsTheFieldAndStopsTheExchange)
     m_dialog.SetDlgItemText(IDC_TEXT, L"wrong");
     int value = 0;
     CString later = L"before";
-    m_dialog.m_exchange = [&](CDataExchange* exchange)
-    {
+    m_dialog.m_exchange = [&](CDataExchange* exchange) {
         DDX_Text(exchange, IDC_TEXT, value);
         DDX_Text(exchange, IDC_FIRST_EDIT, later);
     };
@@ -204,8 +207,7 @@ TEST_F(DataExchange, ARangeIsCheckedAfterReading)
         const MessageBoxCloser boxes;
         m_dialog.SetDlgItemText(IDC_TEXT, row.text);
         int value = 0;
-        m_dialog.m_exchange = [&](CDataExchange* exchange)
-        {
+        m_dialog.m_exchange = [&](CDataExchange* exchange) {
             DDX_Text(exchange, IDC_TEXT, value);
             DDV_MinMaxInt(exchange, value, 10, 20);
         };
@@ -242,8 +244,7 @@ TEST_F(DataExchange, MaxCharsLimitsTypingAndRefusesMore)
 {
     const MessageBoxCloser boxes;
     CString value;
-    m_dialog.m_exchange = [&](CDataExchange* exchange)
-    {
+    m_dialog.m_exchange = [&](CDataExchange* exchange) {
         DDX_Text(exchange, IDC_TEXT, value);
         DDV_MaxChars(exchange, value, 3);
     };

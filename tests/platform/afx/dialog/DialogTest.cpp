@@ -28,8 +28,8 @@ TEST_F(Dialog, TheButtonsEndWithTheirOwnCodes)
     const int rows[] = {IDOK, IDCANCEL};
     for (const int button : rows)
     {
-        ScriptedDialog dialog([button](ScriptedDialog& running)
-                              { ::PostMessage(::GetDlgItem(running.m_hWnd, button), BM_CLICK, 0, 0); });
+        ScriptedDialog dialog(
+            [button](ScriptedDialog& running) { ::PostMessage(::GetDlgItem(running.m_hWnd, button), BM_CLICK, 0, 0); });
         EXPECT_EQ(button, dialog.Run(&m_owner));
     }
 }
@@ -54,8 +54,7 @@ TEST_F(Dialog, EndDialogInOnInitDialogNeverShowsIt)
 {
     bool shown = false;
     ScriptedDialog dialog([&shown](ScriptedDialog&) { shown = true; });
-    dialog.m_onInit = [](ScriptedDialog& running)
-    {
+    dialog.m_onInit = [](ScriptedDialog& running) {
         running.EndDialog(77);
         return TRUE;
     };
@@ -87,8 +86,7 @@ TEST_F(Dialog, ATemplateInMovableMemoryServesAsWell)
 TEST_F(Dialog, TheSameObjectRunsAgain)
 {
     ScriptedDialog dialog;
-    dialog.m_onInit = [](ScriptedDialog& running)
-    {
+    dialog.m_onInit = [](ScriptedDialog& running) {
         running.EndDialog(5);
         return TRUE;
     };
@@ -101,12 +99,10 @@ TEST_F(Dialog, TheSameObjectRunsAgain)
 TEST_F(Dialog, TheOwnerIsDisabledMeanwhile)
 {
     BOOL during = TRUE;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            during = m_owner.IsWindowEnabled();
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        during = m_owner.IsWindowEnabled();
+        running.EndDialog(IDOK);
+    });
     dialog.Run(&m_owner);
     EXPECT_FALSE(during);
     EXPECT_TRUE(m_owner.IsWindowEnabled());
@@ -127,13 +123,11 @@ TEST_F(Dialog, AChildAsParentDisablesItsTopLevelWindow)
     ASSERT_TRUE(child.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &m_owner, 1));
     HWND owner = nullptr;
     BOOL during = TRUE;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            owner = ::GetWindow(running.m_hWnd, GW_OWNER);
-            during = m_owner.IsWindowEnabled();
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        owner = ::GetWindow(running.m_hWnd, GW_OWNER);
+        during = m_owner.IsWindowEnabled();
+        running.EndDialog(IDOK);
+    });
     dialog.Run(&child);
     EXPECT_EQ(m_owner.m_hWnd, owner);
     EXPECT_FALSE(during);
@@ -145,19 +139,15 @@ TEST_F(Dialog, NestedDialogsEndFromTheInside)
     INT_PTR inner = 0;
     BOOL outerDuring = TRUE;
     BOOL outerAfter = FALSE;
-    ScriptedDialog outer(
-        [&](ScriptedDialog& running)
-        {
-            ScriptedDialog nested(
-                [&](ScriptedDialog& runningInside)
-                {
-                    outerDuring = running.IsWindowEnabled();
-                    runningInside.EndDialog(21);
-                });
-            inner = nested.Run(&running);
-            outerAfter = running.IsWindowEnabled();
-            running.EndDialog(22);
+    ScriptedDialog outer([&](ScriptedDialog& running) {
+        ScriptedDialog nested([&](ScriptedDialog& runningInside) {
+            outerDuring = running.IsWindowEnabled();
+            runningInside.EndDialog(21);
         });
+        inner = nested.Run(&running);
+        outerAfter = running.IsWindowEnabled();
+        running.EndDialog(22);
+    });
     EXPECT_EQ(22, outer.Run(&m_owner));
     EXPECT_EQ(21, inner);
     EXPECT_FALSE(outerDuring);
@@ -171,14 +161,11 @@ TEST_F(Dialog, ItIsHiddenInOnInitDialogAndShownWhenIdle)
 {
     BOOL before = TRUE;
     BOOL after = FALSE;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            after = running.IsWindowVisible();
-            running.EndDialog(IDOK);
-        });
-    dialog.m_onInit = [&](ScriptedDialog& running)
-    {
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        after = running.IsWindowVisible();
+        running.EndDialog(IDOK);
+    });
+    dialog.m_onInit = [&](ScriptedDialog& running) {
         before = running.IsWindowVisible();
         return TRUE;
     };
@@ -190,12 +177,10 @@ TEST_F(Dialog, ItIsHiddenInOnInitDialogAndShownWhenIdle)
 TEST_F(Dialog, WithoutAPlaceItIsCentredOverItsOwner)
 {
     CRect rect;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            running.GetWindowRect(&rect);
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        running.GetWindowRect(&rect);
+        running.EndDialog(IDOK);
+    });
     dialog.Run(&m_owner);
     CRect owner;
     m_owner.GetWindowRect(&owner);
@@ -209,13 +194,11 @@ TEST_F(Dialog, WithAPlaceItStandsThere)
     form.At(8, 16);
     CPoint place(0, 0); // of the client area
     CRect expected(8, 16, 0, 0);
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            running.ClientToScreen(&place);
-            running.MapDialogRect(&expected);
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        running.ClientToScreen(&place);
+        running.MapDialogRect(&expected);
+        running.EndDialog(IDOK);
+    });
     dialog.InitModalIndirect(form.Get(), &m_owner);
     dialog.DoModal();
     CPoint origin(0, 0);
@@ -227,12 +210,10 @@ TEST_F(Dialog, WithAPlaceItStandsThere)
 TEST_F(Dialog, TheFirstTabStopHasTheFocus)
 {
     int focus = 0;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            focus = ::GetDlgCtrlID(::GetFocus());
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        focus = ::GetDlgCtrlID(::GetFocus());
+        running.EndDialog(IDOK);
+    });
     dialog.Run(&m_owner);
     EXPECT_EQ(IDC_FIRST_EDIT, focus);
 }
@@ -240,14 +221,11 @@ TEST_F(Dialog, TheFirstTabStopHasTheFocus)
 TEST_F(Dialog, FalseFromOnInitDialogKeepsTheFocusThatWasSet)
 {
     int focus = 0;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            focus = ::GetDlgCtrlID(::GetFocus());
-            running.EndDialog(IDOK);
-        });
-    dialog.m_onInit = [](ScriptedDialog& running)
-    {
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        focus = ::GetDlgCtrlID(::GetFocus());
+        running.EndDialog(IDOK);
+    });
+    dialog.m_onInit = [](ScriptedDialog& running) {
         running.GetDlgItem(IDC_SECOND_EDIT)->SetFocus();
         return FALSE;
     };
@@ -260,17 +238,15 @@ TEST_F(Dialog, TheFocusMovesByCall)
     int next = 0;
     int previous = 0;
     int chosen = 0;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            running.NextDlgCtrl();
-            next = ::GetDlgCtrlID(::GetFocus());
-            running.PrevDlgCtrl();
-            previous = ::GetDlgCtrlID(::GetFocus());
-            running.GotoDlgCtrl(running.GetDlgItem(IDC_MEMO));
-            chosen = ::GetDlgCtrlID(::GetFocus());
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        running.NextDlgCtrl();
+        next = ::GetDlgCtrlID(::GetFocus());
+        running.PrevDlgCtrl();
+        previous = ::GetDlgCtrlID(::GetFocus());
+        running.GotoDlgCtrl(running.GetDlgItem(IDC_MEMO));
+        chosen = ::GetDlgCtrlID(::GetFocus());
+        running.EndDialog(IDOK);
+    });
     dialog.Run(&m_owner);
     EXPECT_EQ(IDC_SECOND_EDIT, next);
     EXPECT_EQ(IDC_FIRST_EDIT, previous);
@@ -289,14 +265,12 @@ TEST_F(Dialog, EnterPressesTheDefaultButton)
 TEST_F(Dialog, EnterPressesAnotherDefaultButtonAfterSetDefID)
 {
     DWORD id = 0;
-    ScriptedDialog dialog(
-        [&](ScriptedDialog& running)
-        {
-            running.SetDefID(IDC_APPLY);
-            id = running.GetDefID();
-            running.Key(IDC_FIRST_EDIT, VK_RETURN);
-            running.Key(IDC_FIRST_EDIT, VK_ESCAPE);
-        });
+    ScriptedDialog dialog([&](ScriptedDialog& running) {
+        running.SetDefID(IDC_APPLY);
+        id = running.GetDefID();
+        running.Key(IDC_FIRST_EDIT, VK_RETURN);
+        running.Key(IDC_FIRST_EDIT, VK_ESCAPE);
+    });
     EXPECT_EQ(IDCANCEL, dialog.Run(&m_owner));
     EXPECT_EQ(1, dialog.m_applies);
     EXPECT_EQ(IDC_APPLY, LOWORD(id));
@@ -315,13 +289,11 @@ TEST_F(Dialog, EscapeCancels)
 
 TEST_F(Dialog, EscapeDoesNothingWhileCancelIsDisabled)
 {
-    ScriptedDialog dialog(
-        [](ScriptedDialog& running)
-        {
-            running.GetDlgItem(IDCANCEL)->EnableWindow(FALSE);
-            running.Key(IDC_MEMO, VK_ESCAPE);
-            running.Key(IDC_FIRST_EDIT, VK_RETURN);
-        });
+    ScriptedDialog dialog([](ScriptedDialog& running) {
+        running.GetDlgItem(IDCANCEL)->EnableWindow(FALSE);
+        running.Key(IDC_MEMO, VK_ESCAPE);
+        running.Key(IDC_FIRST_EDIT, VK_RETURN);
+    });
     EXPECT_EQ(IDOK, dialog.Run(&m_owner));
 }
 
@@ -329,14 +301,12 @@ TEST_F(Dialog, EscapeDoesNothingWhileCancelIsDisabled)
 
 TEST_F(Dialog, UnknownCommandsGoToTheOwner)
 {
-    ScriptedDialog dialog(
-        [](ScriptedDialog& running)
-        {
-            running.SendMessage(WM_COMMAND, ID_OWNER_COMMAND);
-            const HWND control = ::GetDlgItem(running.m_hWnd, IDC_FIRST_EDIT);
-            running.SendMessage(WM_COMMAND, MAKEWPARAM(ID_OWNER_COMMAND, EN_CHANGE), LPARAM(control));
-            running.EndDialog(IDOK);
-        });
+    ScriptedDialog dialog([](ScriptedDialog& running) {
+        running.SendMessage(WM_COMMAND, ID_OWNER_COMMAND);
+        const HWND control = ::GetDlgItem(running.m_hWnd, IDC_FIRST_EDIT);
+        running.SendMessage(WM_COMMAND, MAKEWPARAM(ID_OWNER_COMMAND, EN_CHANGE), LPARAM(control));
+        running.EndDialog(IDOK);
+    });
     dialog.Run(&m_owner);
     EXPECT_EQ(1, m_owner.m_commands);
 }

@@ -38,14 +38,13 @@ public:
         DialogTemplate form(L"Form", 160, 100, style);
         form.Edit(IDC_FIRST_EDIT, 10, 10).Edit(IDC_SECOND_EDIT, 10, 25);
         form.Edit(IDC_MEMO, 80, 10, 60, 40, ES_MULTILINE);
-        form.DefaultButton(IDOK, L"OK", 10, 70).Button(IDCANCEL, L"Cancel", 60, 70).Button(IDC_APPLY, L"Apply", 110, 70);
+        form.DefaultButton(IDOK, L"OK", 10, 70)
+            .Button(IDCANCEL, L"Cancel", 60, 70)
+            .Button(IDC_APPLY, L"Apply", 110, 70);
         return form;
     }
 
-    void Key(int controlId, UINT key)
-    {
-        ::PostMessage(::GetDlgItem(m_hWnd, controlId), WM_KEYDOWN, key, 0);
-    }
+    void Key(int controlId, UINT key) { ::PostMessage(::GetDlgItem(m_hWnd, controlId), WM_KEYDOWN, key, 0); }
 
     std::function<BOOL(ScriptedDialog&)> m_onInit;
     int m_exchanges = 0;
@@ -101,7 +100,8 @@ class OwnerWindow : public CWnd
 public:
     OwnerWindow()
     {
-        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 80, 700, 500), nullptr, 0);
+        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 80, 700, 500),
+                 nullptr, 0);
     }
     ~OwnerWindow() override { DestroyWindow(); }
 

@@ -47,7 +47,8 @@ protected:
     ChildFrame* NewChild(LPCTSTR title)
     {
         ChildFrame* const child = new ChildFrame;
-        EXPECT_TRUE(child->Create(nullptr, title, WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 200, 150), m_frame));
+        EXPECT_TRUE(
+            child->Create(nullptr, title, WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 200, 150), m_frame));
         return child;
     }
 

@@ -21,7 +21,7 @@ struct Picture
     DibCanvas canvas;
     CDC dc;
 };
-}
+} // namespace
 
 TEST(DC, FillSolidRectCoversTheRectangleExactly)
 {

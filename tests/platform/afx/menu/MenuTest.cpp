@@ -34,7 +34,8 @@ class MenuOwner : public CWnd
 public:
     MenuOwner()
     {
-        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 400, 300), nullptr, 0);
+        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 400, 300),
+                 nullptr, 0);
     }
     ~MenuOwner() override { DestroyWindow(); }
 

@@ -1,4 +1,4 @@
-// The caption of a palette set: its parts and its picture come from one layout.
+﻿// The caption of a palette set: its parts and its picture come from one layout.
 #include "arx/ui/CaptionStrip.h"
 
 #include "arx/ui/Colours.h"
@@ -28,7 +28,10 @@ protected:
     }
     ~CaptionPicture() override { ReleaseDC(nullptr, m_screen); }
 
-    void Draw(const CaptionStrip& caption, const CaptionLook& look) { DrawCaption(m_buffer.Get(), caption, look, UiFont()); }
+    void Draw(const CaptionStrip& caption, const CaptionLook& look)
+    {
+        DrawCaption(m_buffer.Get(), caption, look, UiFont());
+    }
     COLORREF Pixel(int x, int y) const { return GetPixel(m_buffer.Get(), x, y); }
 
     int InkIn(const RECT& rect, COLORREF paper) const

@@ -1,4 +1,4 @@
-// A palette set with palettes that record what they are told.
+﻿// A palette set with palettes that record what they are told.
 #pragma once
 
 #include "HostFixture.h"
