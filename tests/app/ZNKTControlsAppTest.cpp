@@ -225,10 +225,12 @@ TEST_F(ModuleEntry, UnloadLeavesNoWindowAndNoGdiObject)
     cycle();
     const int windows = CountWindows();
     const size_t objects = CountGdiObjects();
-    for (int i = 0; i < 5; ++i)
+    // The system keeps a few objects of its own from time to time; one that the module leaves is left by every cycle.
+    const size_t cycles = 10;
+    for (size_t i = 0; i < cycles; ++i)
         cycle();
     EXPECT_EQ(windows, CountWindows());
-    EXPECT_EQ(objects, CountGdiObjects());
+    EXPECT_LT(CountGdiObjects(), objects + cycles);
     EXPECT_TRUE(LoadedModule::Handle() == NULL);
 }
 
