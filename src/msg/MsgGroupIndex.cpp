@@ -13,10 +13,9 @@ int CountIn(const std::map<AcApDocument*, int>& counts, AcApDocument* document)
 
 CString CMsgGroupIndex::Add(const wchar_t* group, AcApDocument* document)
 {
-    const CString name(group);
-    Group& entry = m_groups[name];
-    if (entry.spelling != name)
-        entry.spelling = name;
+    Group& entry = GroupNamed(group);
+    if (entry.spelling != group)
+        entry.spelling = group;
     ++entry.counts[document];
     return entry.spelling;
 }
@@ -41,14 +40,26 @@ void CMsgGroupIndex::Clear()
 
 bool CMsgGroupIndex::Contains(const wchar_t* group) const
 {
-    return m_groups.find(CString(group)) != m_groups.end();
+    return m_groups.find(group) != m_groups.end();
 }
 
 int CMsgGroupIndex::CountVisible(const wchar_t* group, AcApDocument* current) const
 {
-    const Groups::const_iterator found = m_groups.find(CString(group));
+    const Groups::const_iterator found = m_groups.find(group);
     if (found == m_groups.end())
         return 0;
     const int bound = current == NULL ? 0 : CountIn(found->second.counts, current);
     return bound + CountIn(found->second.counts, NULL);
+}
+
+CMsgGroupIndex::Group& CMsgGroupIndex::GroupNamed(const wchar_t* group)
+{
+    const Groups::iterator found = m_groups.find(group);
+    if (found != m_groups.end())
+        return found->second;
+    Group entry;
+    entry.name = group;
+    entry.spelling = entry.name;
+    // The copy in the map shares the text with this one, so the key lives as long as the copy.
+    return m_groups.insert(Groups::value_type(entry.name.GetString(), entry)).first->second;
 }

@@ -26,20 +26,25 @@ public:
     int CountVisible(const wchar_t* group, AcApDocument* current) const;
 
 private:
+    // As CString::CompareNoCase compares.
     struct NoCaseLess
     {
-        bool operator()(const CString& left, const CString& right) const { return left.CompareNoCase(right) < 0; }
+        bool operator()(const wchar_t* left, const wchar_t* right) const { return ::_wcsicmp(left, right) < 0; }
     };
 
     typedef std::map<AcApDocument*, int> Counts;
 
     struct Group
     {
+        CString name;     // the key's text: as in the group's first message
         CString spelling; // as in the newest message
         Counts counts;
     };
 
-    typedef std::map<CString, Group, NoCaseLess> Groups;
+    // Keyed by the text of Group::name, so that a look-up needs no text of its own on the heap.
+    typedef std::map<const wchar_t*, Group, NoCaseLess> Groups;
+
+    Group& GroupNamed(const wchar_t* group);
 
     Groups m_groups;
 };
