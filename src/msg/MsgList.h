@@ -34,7 +34,8 @@ public:
     // The selected rows, first row first.
     std::vector<int> GetSelectedRows() const;
 
-    // Deletes these rows, which must rise.
+    // Deletes these rows, which must rise. The others keep what they show, their order and the place of the scroll bar.
+    // Where many go and some of the others are selected, these are selected no longer.
     void DeleteRows(const std::vector<int>& rows);
 
     // Selects and focuses the row and scrolls it into view.
@@ -44,7 +45,19 @@ public:
     void FitTextColumn();
 
 private:
+    // What a row is made of.
+    struct Row
+    {
+        CString texts[COLUMNS];
+        int image;
+        int id;
+    };
+
+    Row CopyRow(int row) const;
+    void InsertRow(int row, const Row& content);
     void InsertMessage(int row, const CZNMsgData& message);
+    void DeleteOneByOne(const std::vector<int>& rows);
+    void RefillWithout(const std::vector<int>& rows);
 
     CImageList m_images;
 };

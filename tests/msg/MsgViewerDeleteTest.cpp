@@ -145,6 +145,65 @@ TEST_F(ViewerDelete, ThousandsOfScatteredRows)
     EXPECT_EQ(6, Row(3).lParam);
 }
 
+TEST_F(ViewerDelete, ThousandsOfRowsLeaveTheOthersAsTheyWere)
+{
+    const int count = 3000;
+    for (int i = 0; i < count; ++i)
+        KTMsgWnd::AddMsg(static_cast<KTMsgWnd::EMsgType>(i % 3), L"g", std::to_wstring(i).c_str(), false, NULL, NULL);
+    const std::wstring longText(100000, L'字');
+    Add(L"100%s%d\r\n", longText.c_str());
+    Show();
+    ListView_EnsureVisible(Item(IDC_LIST), 0, FALSE);
+    const std::wstring time = Cell(1, 1);
+    // This message is gone from the store, but the user has not been shown that yet.
+    ASSERT_TRUE(Store().Remove(2));
+    std::vector<int> rows;
+    for (int row = 0; row < count; row += 2)
+        rows.push_back(row);
+    SelectRows(rows);
+    Click(IDC_DELETE_SELECTED);
+
+    ASSERT_EQ(count / 2 + 1, Rows());
+    EXPECT_EQ(L"1501个消息", TextOf(IDC_COUNT));
+    const Texts types = {L"信息", L"警告", L"错误"};
+    const int images[] = {0, 2, 1};
+    for (int row = 0; row < count / 2; ++row)
+    {
+        const int number = 2 * row + 1;
+        ASSERT_EQ(types[static_cast<size_t>(number % 3)], Cell(row, 0));
+        ASSERT_EQ(images[number % 3], Row(row).iImage);
+        ASSERT_EQ(L"g", Cell(row, 2));
+        ASSERT_EQ(std::to_wstring(number), Cell(row, 3));
+        ASSERT_EQ(number + 1, Row(row).lParam);
+    }
+    EXPECT_EQ(time, Cell(0, 1));
+    EXPECT_EQ(L"100%s%d\r\n", Cell(count / 2, 2));
+    EXPECT_EQ(longText, Cell(count / 2, 3, 100001));
+    EXPECT_EQ(std::vector<int>{0}, SelectedRows());
+    EXPECT_TRUE((Row(0).state & LVIS_FOCUSED) != 0);
+}
+
+TEST_F(ViewerDelete, ThousandsOfRowsKeepThePlaceOfTheScrollBar)
+{
+    const int count = 3000;
+    for (int i = 0; i < count; ++i)
+        Add(L"g", L"text");
+    Show();
+    std::vector<int> rows;
+    for (int row = 1000; row < 2000; ++row)
+        rows.push_back(row);
+    SelectRows(rows);
+    const HWND list = Item(IDC_LIST);
+    ListView_EnsureVisible(list, 0, FALSE);
+    ListView_EnsureVisible(list, 1000, FALSE);
+    const int top = ListView_GetTopIndex(list);
+    ASSERT_GT(top, 0);
+    Click(IDC_DELETE_SELECTED);
+    EXPECT_EQ(count - 1000, Rows());
+    EXPECT_EQ(top, ListView_GetTopIndex(list));
+    EXPECT_EQ(std::vector<int>{1000}, SelectedRows());
+}
+
 TEST_F(ViewerDelete, AllShownAsksBeforeDeletingEverything)
 {
     AddThree();
