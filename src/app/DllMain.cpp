@@ -2,6 +2,7 @@
 #include <afxwin.h>
 #include <afxdllx.h>
 #include <AcExtensionModule.h>
+#include <acui.h>
 
 #include "base/ModuleInstance.h"
 
@@ -15,6 +16,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID)
     {
         _hdllInstance = instance;
         ZNKTControlsDLL.AttachInstance(instance);
+        InitAcUiDLL();
     }
     else if (reason == DLL_PROCESS_DETACH)
     {

@@ -7,13 +7,18 @@
 #include "app/ZNKTControlsApp.h"
 #include "arx/rx/ApiVersion.h"
 #include "msg/HostFrame.h"
+#include "msg/KTMsgWnd.h"
+#include "msg/MsgViewWnd.h"
+#include "msg/ZNMsgManager.h"
 
 #include <ZnQFCBaseU.h>
+#include <rxdlinkr.h>
 #include <commctrl.h>
 #include <psapi.h>
 
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 
 namespace
@@ -101,6 +106,84 @@ int FirstRowId(const CWnd& frame)
     return static_cast<int>(item.lParam);
 }
 
+struct ClassesOfLibrary
+{
+    HMODULE library;
+    std::set<std::wstring> names;
+};
+
+BOOL CALLBACK NoteClass(HWND window, LPARAM parameter)
+{
+    ClassesOfLibrary& classes = *reinterpret_cast<ClassesOfLibrary*>(parameter);
+    wchar_t name[256] = L"";
+    ::GetClassNameW(window, name, 256);
+    if (::GetClassLongPtrW(window, GCLP_HMODULE) == reinterpret_cast<ULONG_PTR>(classes.library))
+        classes.names.insert(name);
+    return TRUE;
+}
+
+BOOL CALLBACK NoteClasses(HWND window, LPARAM parameter)
+{
+    NoteClass(window, parameter);
+    ::EnumChildWindows(window, &NoteClass, parameter);
+    return TRUE;
+}
+
+// The classes of this thread's windows that the library registered.
+std::set<std::wstring> ClassesOf(HMODULE library)
+{
+    ClassesOfLibrary classes = {library, {}};
+    ::EnumThreadWindows(::GetCurrentThreadId(), &NoteClasses, reinterpret_cast<LPARAM>(&classes));
+    return classes.names;
+}
+
+// What is still there when the window of the message palette goes.
+class PaletteEnd
+{
+public:
+    explicit PaletteEnd(HWND palette) : m_palette(palette)
+    {
+        s_current = this;
+        m_hook = ::SetWindowsHookExW(WH_CALLWNDPROC, &OnHook, NULL, ::GetCurrentThreadId());
+    }
+
+    ~PaletteEnd()
+    {
+        ::UnhookWindowsHookEx(m_hook);
+        s_current = NULL;
+    }
+
+    PaletteEnd(const PaletteEnd&) = delete;
+    PaletteEnd& operator=(const PaletteEnd&) = delete;
+
+    bool IsSeen() const { return m_seen; }
+    int Messages() const { return m_messages; }
+    bool HadCompanion() const { return m_hadCompanion; }
+
+private:
+    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const CWPSTRUCT& call = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (code == HC_ACTION && call.message == WM_DESTROY && call.hwnd == s_current->m_palette)
+        {
+            s_current->m_seen = true;
+            s_current->m_messages = KTMsgWnd::GetMsgCount(L"g");
+            s_current->m_hadCompanion = acrxAppIsLoaded(kCompanion);
+        }
+        return ::CallNextHookEx(NULL, code, wParam, lParam);
+    }
+
+    static PaletteEnd* s_current;
+
+    HWND m_palette;
+    HHOOK m_hook;
+    bool m_seen = false;
+    int m_messages = 0;
+    bool m_hadCompanion = false;
+};
+
+PaletteEnd* PaletteEnd::s_current = NULL;
+
 SIZE_T PrivateBytes()
 {
     PROCESS_MEMORY_COUNTERS_EX counters = {};
@@ -136,6 +219,31 @@ TEST_F(ModuleEntry, CanBeUnloadedAtAnyTime)
     const LoadedModule module;
     ASSERT_TRUE(module.IsLoaded());
     EXPECT_FALSE(acrxApplicationIsLocked(LoadedModule::Name()));
+}
+
+TEST_F(ModuleEntry, WorksWithSeveralOpenDrawings)
+{
+    const LoadedModule module;
+    ASSERT_TRUE(module.IsLoaded());
+    EXPECT_TRUE(acrxDynamicLinker->isAppMDIAware(LoadedModule::Name()));
+}
+
+TEST_F(ModuleEntry, PaletteGoesBeforeTheStoreAndBothBeforeTheCompanion)
+{
+    HostFrame frame;
+    CZNKTControlsApp app;
+    ASSERT_EQ(AcRx::kRetOK, app.On_kInitAppMsg(NULL));
+    ASSERT_TRUE(KTMsgWnd::AddMsg(KTMsgWnd::eInfo, L"g", L"text", false, NULL, NULL));
+    ASSERT_TRUE(KTMsgWnd::ShowMsgWnd(true));
+    const PaletteEnd end(CMsgViewWnd::Instance(false)->m_hWnd);
+    EXPECT_EQ(AcRx::kRetOK, app.On_kUnloadAppMsg(NULL));
+    EXPECT_TRUE(end.IsSeen());
+    EXPECT_EQ(1, end.Messages());
+    EXPECT_TRUE(end.HadCompanion());
+    EXPECT_TRUE(CMsgViewWnd::Instance(false) == NULL);
+    EXPECT_EQ(0, KTMsgWnd::GetMsgCount(L"g"));
+    EXPECT_FALSE(acrxAppIsLoaded(kCompanion));
+    CZNMsgManager::DestroyInstance();
 }
 
 TEST_F(ModuleEntry, ReportsTheInterfaceVersionItWasBuiltFor)
@@ -232,6 +340,27 @@ TEST_F(ModuleEntry, UnloadLeavesNoWindowAndNoGdiObject)
     EXPECT_EQ(windows, CountWindows());
     EXPECT_LT(CountGdiObjects(), objects + cycles);
     EXPECT_TRUE(LoadedModule::Handle() == NULL);
+}
+
+// A class or a hook whose procedure is in the module would take the next window down with it after the unload.
+TEST_F(ModuleEntry, UnloadLeavesNoWindowClassAndNoHook)
+{
+    HostFrame frame;
+    {
+        LoadedModule module;
+        ASSERT_TRUE(module.IsLoaded());
+        ASSERT_TRUE(module.Show(true));
+        EXPECT_EQ(std::set<std::wstring>(), ClassesOf(LoadedModule::Handle()));
+    }
+    ASSERT_TRUE(LoadedModule::Handle() == NULL);
+    // Any hook of this thread would be called now.
+    CWnd window;
+    ASSERT_TRUE(window.Create(NULL, L"after", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &frame.Wnd(), 1));
+    window.PostMessage(WM_NULL);
+    MSG message;
+    while (::PeekMessageW(&message, NULL, 0, 0, PM_REMOVE))
+        ::DispatchMessageW(&message);
+    EXPECT_TRUE(window.DestroyWindow());
 }
 
 TEST_F(ModuleEntry, UnloadFreesTheStore)
