@@ -2,6 +2,7 @@
 #include "ViewerFixture.h"
 
 #include "GdiCount.h"
+#include "MessageBoxAnswer.h"
 
 #include <cstring>
 
@@ -251,4 +252,27 @@ TEST_F(MessagePalette, ResourcesOfTheHostAreCurrentAgainAfterwards)
     const HINSTANCE before = AfxGetResourceHandle();
     Show();
     EXPECT_EQ(before, AfxGetResourceHandle());
+}
+
+// In a library without the dialog template the viewer cannot be made.
+TEST_F(MessagePalette, TellsThatTheViewerCouldNotBeCreated)
+{
+    const HINSTANCE own = _hdllInstance;
+    const HINSTANCE before = AfxGetResourceHandle();
+    _hdllInstance = ::GetModuleHandleW(L"kernel32.dll");
+    AfxSetResourceHandle(_hdllInstance);
+    MessageBoxAnswer answer(IDOK);
+    EXPECT_TRUE(Show());
+    _hdllInstance = own;
+    AfxSetResourceHandle(before);
+    ASSERT_EQ(1u, answer.Boxes().size());
+    EXPECT_EQ(L"错误", answer.Boxes()[0].caption);
+    EXPECT_EQ(L"创建失败！", answer.Boxes()[0].text);
+    EXPECT_FALSE(answer.Boxes()[0].hasYesAndNo);
+    EXPECT_EQ(::LoadIconW(NULL, IDI_ERROR), answer.Boxes()[0].icon);
+    // The empty palette takes every request.
+    EXPECT_TRUE(Viewer() == NULL);
+    KTMsgWnd::UpdateMsgWnd();
+    Set()->SetDockedSize(350);
+    EXPECT_TRUE(KTMsgWnd::ShowMsgWnd(false));
 }

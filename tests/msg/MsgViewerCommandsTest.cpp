@@ -277,6 +277,29 @@ TEST_F(ViewerCommands, ClosingTheDocumentDuringAFlashDoesNoHarm)
     EXPECT_EQ(0, Rows());
 }
 
+// The viewer still shows the closed drawing until it is refreshed.
+TEST_F(ViewerCommands, CommandsDoNothingInOtherDrawingsAfterTheirsWasClosed)
+{
+    AddFour();
+    SelectRows({2});
+    arxhost::CloseDocument(m_document);
+    Click(IDC_SELECT);
+    Click(IDC_FLASH);
+    Click(IDC_ZOOM);
+    AcApDocument* const other = arxhost::NewDocument();
+    const AcGePoint2d before = arxhost::GetView(other).centre;
+    Click(IDC_SELECT);
+    Click(IDC_FLASH);
+    Click(IDC_ZOOM);
+    EXPECT_TRUE(arxhost::GetPickfirst(other).empty());
+    EXPECT_NEAR(before.x, arxhost::GetView(other).centre.x, kTolerance);
+    Click(IDC_DELETE_SELECTED);
+    EXPECT_EQ(3, Rows());
+    EXPECT_EQ(3, Store().GetCount());
+    KTMsgWnd::UpdateMsgWnd();
+    EXPECT_EQ(0, Rows());
+}
+
 TEST_F(ViewerCommands, HeaderClickSortsByTheColumnsTexts)
 {
     Add(L"g", L"pear");
