@@ -19,7 +19,11 @@ endif()
 # Unicode Windows 7 and later, the framework shared as a DLL.
 set(ZNKT_DEFINITIONS UNICODE _UNICODE WIN32 _WINDOWS WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800 _AFXDLL NOMINMAX
   $<$<CONFIG:Debug>:_DEBUG>)
-set(ZNKT_WARNINGS -Wall -Wextra -Werror -Wno-unknown-pragmas)
+if(MSVC)
+  set(ZNKT_WARNINGS /W4 /WX)
+else()
+  set(ZNKT_WARNINGS -Wall -Wextra -Werror -Wno-unknown-pragmas)
+endif()
 
 # Own code of a target: definitions and warnings as errors.
 function(znkt_own_code target)
@@ -64,12 +68,14 @@ function(znkt_add_test name)
   endif()
 endfunction()
 
-# The compiler's own DLLs beside the programs.
-foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll} OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
-  if(NOT IS_ABSOLUTE "${path}")
-    set(path "/usr/x86_64-w64-mingw32/lib/${dll}")
-  endif()
-  configure_file("${path}" "${CMAKE_BINARY_DIR}/bin/${dll}" COPYONLY)
-  list(APPEND ZNKT_RUNTIME_DLLS "${path}")
-endforeach()
+if(MINGW)
+  # The compiler's own DLLs beside the programs.
+  foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll} OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT IS_ABSOLUTE "${path}")
+      set(path "/usr/x86_64-w64-mingw32/lib/${dll}")
+    endif()
+    configure_file("${path}" "${CMAKE_BINARY_DIR}/bin/${dll}" COPYONLY)
+    list(APPEND ZNKT_RUNTIME_DLLS "${path}")
+  endforeach()
+endif()
