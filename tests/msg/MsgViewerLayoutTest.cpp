@@ -102,7 +102,7 @@ TEST_F(ViewerLayout, ToggleIsCheckedWhileTheTreeIsShown)
     EXPECT_EQ(BST_UNCHECKED, ::SendMessageW(Item(IDC_SHOW_TREE), BM_GETCHECK, 0, 0));
 }
 
-TEST_F(ViewerLayout, TreeStaysHiddenInTheNextSession)
+TEST_F(ViewerLayout, TreeStaysHiddenWhenTheModuleIsLoadedAgain)
 {
     SetShowTree(false);
     Show();

@@ -1,4 +1,4 @@
-// CAdUiDialog: a dialog that can keep its place between sessions and has a smallest and a largest size.
+// CAdUiDialog: a dialog that can keep its place from one run to the next and has a smallest and a largest size.
 #pragma once
 
 #include "aduiBaseDialog.h"

@@ -3,7 +3,7 @@
 // Use: Create, SetToolID, EnableDocking, RestoreControlBar, then CFrameWnd::ShowControlBar(bar, TRUE, FALSE). The user
 // drags the bar by its caption, docks it by dropping it at an edge (Ctrl prevents that), sizes it at the splitter or at
 // the border of the floating frame, and hides it by the close button. Closing hides, it never destroys; the owner calls
-// DestroyWindow and deletes the object. With a tool identifier the place survives the session.
+// DestroyWindow and deletes the object. With a tool identifier the place survives the end of the program.
 //
 // Coordinates are pixels; rectangles of floating frames are screen coordinates.
 #pragma once

@@ -1,4 +1,4 @@
-// The place of a palette set as it is kept between sessions, and its text form in the application's profile.
+// The place of a palette set as it is kept from one run to the next, and its text form in the application's profile.
 #pragma once
 
 #include "arx/Api.h"
