@@ -64,8 +64,8 @@ private:
     bool m_inserted;
 };
 
-// The texts of a column, first row first. False when the owner, who is asked for texts that it keeps itself, destroyed the
-// list or changed its number of rows meanwhile.
+// The texts of a column, first row first. False when the owner, who is asked for texts that it keeps itself, destroyed
+// the list or changed its number of rows meanwhile.
 bool FetchTexts(const CListCtrl& list, int column, std::vector<CString>& texts)
 {
     const int rows = list.GetItemCount();
@@ -369,17 +369,16 @@ LRESULT CZNSortListCtrl::DrawCell(NMLVCUSTOMDRAW& draw)
         return result;
     int isColor = 0;
     const bool drawn = m_mapColorColumns.Lookup(draw.iSubItem, isColor) && isColor != 0
-                           ? DrawColor(*dc, draw)
+                           ? DrawColor(*dc, row, draw.iSubItem)
                            : DrawHighlight(*dc, row, draw.iSubItem);
     return drawn ? CDRF_SKIPDEFAULT : result;
 }
 
-bool CZNSortListCtrl::DrawColor(CDC& dc, const NMLVCUSTOMDRAW& draw)
+bool CZNSortListCtrl::DrawColor(CDC& dc, int row, int column)
 {
-    const int row = static_cast<int>(draw.nmcd.dwItemSpec);
-    const CString text = GetItemText(row, draw.iSubItem);
+    const CString text = GetItemText(row, column);
     CRect cell;
-    if (!::IsWindow(m_hWnd) || !GetCellRect(draw, cell))
+    if (!::IsWindow(m_hWnd) || !GetCellRect(row, column, cell))
         return false;
     const bool selected = GetItemState(row, LVIS_SELECTED) != 0;
     const ColorCellState state = {IsWindowEnabled() != FALSE, selected, ::GetFocus() == m_hWnd};
@@ -407,14 +406,14 @@ bool CZNSortListCtrl::DrawHighlight(CDC& dc, int row, int column)
     return true;
 }
 
-bool CZNSortListCtrl::GetCellRect(const NMLVCUSTOMDRAW& draw, CRect& cell)
+// The notification's own rectangle begins at the window's edge or at that of the scrolled row, depending on the version
+// of the list view. The place of the heading, moved with the row, is the same cell in all of them.
+bool CZNSortListCtrl::GetCellRect(int row, int column, CRect& cell)
 {
-    CRect row;
-    if (!GetItemRect(static_cast<int>(draw.nmcd.dwItemSpec), &row, LVIR_BOUNDS))
+    const CHeaderCtrl* const header = GetHeaderCtrl();
+    CRect bounds;
+    if (header == NULL || !header->GetItemRect(column, &cell) || !GetItemRect(row, &bounds, LVIR_BOUNDS))
         return false;
-    cell = draw.nmcd.rc;
-    cell.OffsetRect(row.left, 0);
-    cell.top = row.top;
-    cell.bottom = row.bottom;
+    cell = CRect(cell.left + bounds.left, bounds.top, cell.right + bounds.left, bounds.bottom);
     return true;
 }

@@ -95,9 +95,9 @@ private:
     int FindColumn(int row, CPoint point);
 
     LRESULT DrawCell(NMLVCUSTOMDRAW& draw);
-    bool DrawColor(CDC& dc, const NMLVCUSTOMDRAW& draw);
+    bool DrawColor(CDC& dc, int row, int column);
     bool DrawHighlight(CDC& dc, int row, int column);
-    bool GetCellRect(const NMLVCUSTOMDRAW& draw, CRect& cell);
+    bool GetCellRect(int row, int column, CRect& cell);
 
     CImageList m_imgSortArrows;
     bool m_bArrowsMade;

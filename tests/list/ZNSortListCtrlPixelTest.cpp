@@ -242,6 +242,7 @@ TEST_F(SortListPicture, SwatchesFollowTheScrolledWindow)
     m_list.SetIsColorColumn(1, 1);
     m_list.SetColumnWidth(0, 400);
     m_list.SetColumnWidth(1, 400);
+    m_list.UpdateWindow();
     m_list.Scroll(CSize(150, 0));
     ASSERT_EQ(250, Label(0, 1).left);
     Paint();
