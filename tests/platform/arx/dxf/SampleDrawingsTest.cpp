@@ -11,8 +11,8 @@
 namespace
 {
 
-// Drawings of the Debian package librecad-data, as Wine sees them.
-const wchar_t kFolder[] = L"Z:\\usr\\share\\librecad\\library";
+// Drawings of the Debian package librecad-data (symbols, sheets, hatch patterns), as Wine sees them.
+const wchar_t kFolder[] = L"Z:\\usr\\share\\librecad";
 constexpr size_t kEvery = 12;
 constexpr size_t kLeastSample = 100;
 
@@ -83,6 +83,6 @@ TEST(SampleDrawings, LibraryOfRealDrawingsIsReadWithoutErrors)
     RecordProperty("entities", entities);
     RecordProperty("skipped", skipped);
     EXPECT_GT(entities, 0);
-    // The whole library has one picture (IMAGE) that is not drawn.
+    // The whole package has one picture (IMAGE) that is not drawn.
     EXPECT_LE(skipped, 1);
 }
