@@ -66,7 +66,8 @@ void RunCommandLine(MainFrame& frame, const std::wstring& line)
         command->run(frame, words);
     }
     else if (!ExecuteLine(line.c_str()))
-        throw CommandFailure{L"未知命令“" + name + L"”。输入 HELP 查看命令列表。"};
+        // The reason was printed already: no such command, no open drawing.
+        throw CommandFailure{L"命令“" + name + L"”没有执行。输入 HELP 查看命令列表。"};
 }
 
 std::wstring CommandHelp()
