@@ -2,6 +2,7 @@
 #include "StoreFixture.h"
 
 #include "Drawing.h"
+#include "Wait.h"
 
 #include <cwctype>
 
@@ -198,6 +199,15 @@ TEST_F(MessageService, TimeIsTheLocalTimeOfAdding)
     EXPECT_EQ(L':', time[5]);
     EXPECT_TRUE(std::iswdigit(time[0]) && std::iswdigit(time[7]));
     EXPECT_TRUE(time == before || time == after || before > after);
+}
+
+TEST_F(MessageService, TimeGoesOn)
+{
+    Add(L"g", L"t");
+    const CString first = Last().time;
+    ASSERT_TRUE(WaitFor([&first] { return CTime::GetCurrentTime().Format(L"%H:%M:%S") != first; }));
+    Add(L"g", L"t");
+    EXPECT_STRNE(first, Last().time);
 }
 
 TEST_F(MessageService, TextsComeBackUnharmed)

@@ -1,6 +1,7 @@
 ﻿// Where the viewer's controls stand when it is sized and when the tree is hidden; keys, focus, tips.
 #include "ViewerFixture.h"
 
+#include "DibCanvas.h"
 #include "Wait.h"
 
 namespace
@@ -10,6 +11,26 @@ class ViewerLayout : public ViewerFixture
 {
 protected:
     static void SizeTo(int cx, int cy) { ::MoveWindow(Viewer(), 0, 0, cx, cy, TRUE); }
+
+    static std::vector<COLORREF> PixelsOf(HICON icon)
+    {
+        const int size = 16;
+        DibCanvas canvas(size, size, RGB(255, 0, 255));
+        ::DrawIconEx(canvas.Dc(), 0, 0, icon, size, size, 0, NULL, DI_NORMAL);
+        std::vector<COLORREF> pixels;
+        for (int i = 0; i < size * size; ++i)
+            pixels.push_back(canvas.Pixel(i % size, i / size));
+        return pixels;
+    }
+
+    static std::vector<COLORREF> PixelsOfResource(int id)
+    {
+        const int size = 16;
+        const HANDLE icon = ::LoadImageW(_hdllInstance, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR);
+        const std::vector<COLORREF> pixels = PixelsOf(static_cast<HICON>(icon));
+        ::DestroyIcon(static_cast<HICON>(icon));
+        return pixels;
+    }
 
     static int DescriptionColumn() { return ListView_GetColumnWidth(Item(IDC_LIST), 3); }
 
@@ -201,5 +222,21 @@ TEST_F(ViewerLayout, ButtonsHaveTheirStylesAndIconsAndNoCaption)
         EXPECT_TRUE(dynamic_cast<CXTToolbarButtonTheme*>(button->GetTheme()) != NULL) << id;
         EXPECT_TRUE(button->GetIcon() != NULL) << id;
         EXPECT_EQ(L"", TextOf(id));
+    }
+}
+
+TEST_F(ViewerLayout, EveryButtonHasItsOwnPicture)
+{
+    Show();
+    const struct
+    {
+        int id;
+        int icon;
+    } buttons[] = {{101, 104}, {106, 105}, {107, 106}, {108, 108}, {109, 107}, {112, 1001}};
+    for (const auto& button : buttons)
+    {
+        CXTButton* const control = dynamic_cast<CXTButton*>(CWnd::FromHandlePermanent(Item(button.id)));
+        ASSERT_TRUE(control != NULL) << button.id;
+        EXPECT_EQ(PixelsOfResource(button.icon), PixelsOf(control->GetIcon())) << button.id;
     }
 }

@@ -1,6 +1,8 @@
 ﻿// What the viewer shows: tree of groups, rows, count, and which document's messages.
 #include "ViewerFixture.h"
 
+#include "DibCanvas.h"
+
 namespace
 {
 
@@ -100,6 +102,27 @@ TEST_F(ViewerRefresh, ImageListsHaveTheirSizes)
     ImageList_GetIconSize(tree, &cx, &cy);
     EXPECT_EQ(16, cx);
     EXPECT_EQ(16, cy);
+}
+
+TEST_F(ViewerRefresh, WhiteOfTheImagesIsTransparent)
+{
+    Show();
+    const COLORREF background = RGB(255, 0, 255);
+    const struct
+    {
+        HIMAGELIST images;
+        int size;
+    } lists[] = {{ListView_GetImageList(Item(IDC_LIST), LVSIL_SMALL), 18},
+                 {TreeView_GetImageList(Item(IDC_TREE), TVSIL_NORMAL), 16}};
+    for (const auto& list : lists)
+    {
+        for (int image = 0; image < ImageList_GetImageCount(list.images); ++image)
+        {
+            DibCanvas canvas(list.size, list.size, background);
+            ImageList_Draw(list.images, image, canvas.Dc(), 0, 0, ILD_TRANSPARENT);
+            EXPECT_EQ(background, canvas.Pixel(0, 0)) << image;
+        }
+    }
 }
 
 TEST_F(ViewerRefresh, RowsShowTypeTimeGroupAndText)
