@@ -178,6 +178,20 @@ TEST_F(MessagePalette, ComesBackFloatingAndLaidOut)
     EXPECT_EQ(1, Rows());
 }
 
+// A floating set that comes back grows by a pixel, which makes it lay out its contents.
+TEST_F(MessagePalette, GrowsByOnePixelWhenItComesBackFloating)
+{
+    Show();
+    Set()->FloatControlBar(CRect(250, 220, 850, 500));
+    const CRect before = SetRect();
+    AdUiSaveDockingToolPositions();
+    CMsgViewWnd::DestroyInstance();
+    Show();
+    ASSERT_TRUE(Set()->IsFloating());
+    EXPECT_EQ(before.Height() + 1, SetRect().Height());
+    EXPECT_EQ(before.TopLeft(), SetRect().TopLeft());
+}
+
 TEST_F(MessagePalette, MinimumSizeIs300By120)
 {
     Show();
