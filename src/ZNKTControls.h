@@ -1,5 +1,7 @@
 // Everything that ZNKTControls.arx offers.
 #pragma once
 
+#include "edit/InputDialog.h"
+#include "edit/SuperEdit.h"
 #include "list/ZNSortListCtrl.h"
 #include "msg/KTMsgWnd.h"

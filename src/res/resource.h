@@ -1,7 +1,8 @@
-// Identifiers of the module's resources and of the viewer's controls.
+// Identifiers of the module's resources and of the controls in its dialogs.
 #pragma once
 
 #define IDD_MSG_VIEWER 102
+#define IDD_INPUT 103
 
 #define IDI_TREE 104
 #define IDI_DELETE 105
@@ -26,3 +27,7 @@
 #define IDC_SEPARATOR_DELETE 110
 #define IDC_SEPARATOR_ZOOM 111
 #define IDC_SELECT 112
+
+// Controls of the input dialog.
+#define IDC_INPUT_TEXT 100
+#define IDC_INPUT_PROMPT 104

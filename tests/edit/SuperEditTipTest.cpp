@@ -1,0 +1,144 @@
+﻿// The hover tip: its text, its tool, and what it does when it cannot be made.
+#include "EditFixture.h"
+
+#include "MessageBoxAnswer.h"
+
+namespace
+{
+
+const UINT_PTR kTool = 1;
+
+BOOL CALLBACK CollectTip(HWND window, LPARAM tips)
+{
+    wchar_t name[32] = L"";
+    ::GetClassNameW(window, name, 32);
+    if (std::wstring(name) == TOOLTIPS_CLASSW)
+        reinterpret_cast<std::vector<HWND>*>(tips)->push_back(window);
+    return TRUE;
+}
+
+class SuperEditTip : public EditFixture
+{
+protected:
+    SuperEditTip()
+    {
+        // Each edit brings one tip window, and there is one edit.
+        std::vector<HWND> tips;
+        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+        EXPECT_EQ(1u, tips.size());
+        m_tip = tips.empty() ? NULL : tips.front();
+    }
+
+    int Tools() const { return static_cast<int>(::SendMessageW(m_tip, TTM_GETTOOLCOUNT, 0, 0)); }
+
+    TTTOOLINFOW Tool()
+    {
+        TTTOOLINFOW info = {};
+        info.cbSize = TTTOOLINFOW_V2_SIZE;
+        info.hwnd = m_edit.m_hWnd;
+        info.uId = kTool;
+        return info;
+    }
+
+    std::wstring Shown()
+    {
+        TTTOOLINFOW info = Tool();
+        wchar_t text[300] = L"";
+        info.lpszText = text;
+        ::SendMessageW(m_tip, TTM_GETTEXTW, 300, reinterpret_cast<LPARAM>(&info));
+        return text;
+    }
+
+    HWND m_tip;
+};
+
+} // namespace
+
+TEST_F(SuperEditTip, FocusAddsOneToolForTheWholeClientArea)
+{
+    m_edit.SetTipText(L"first");
+    EXPECT_EQ(0, Tools());
+    Enter();
+    ASSERT_EQ(1, Tools());
+    EXPECT_EQ(L"first", Shown());
+    TTTOOLINFOW info = Tool();
+    wchar_t text[300] = L"";
+    info.lpszText = text;
+    ::SendMessageW(m_tip, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info));
+    CRect client;
+    m_edit.GetClientRect(&client);
+    EXPECT_TRUE(client == CRect(info.rect));
+    Leave();
+    Enter();
+    EXPECT_EQ(1, Tools());
+}
+
+TEST_F(SuperEditTip, BreaksLinesAt400Pixels)
+{
+    EXPECT_EQ(400, ::SendMessageW(m_tip, TTM_GETMAXTIPWIDTH, 0, 0));
+}
+
+TEST_F(SuperEditTip, NewTextReplacesTheOldOne)
+{
+    m_edit.SetTipText(L"first");
+    Enter();
+    m_edit.SetTipText(L"second");
+    EXPECT_EQ(L"second", Shown());
+    EXPECT_STREQ(L"second", m_edit.GetTipText());
+}
+
+TEST_F(SuperEditTip, NullTextRemovesTheTool)
+{
+    m_edit.SetTipText(L"first");
+    Enter();
+    m_edit.SetTipText(NULL);
+    EXPECT_EQ(0, Tools());
+    EXPECT_TRUE(m_edit.GetTipText().IsEmpty());
+}
+
+TEST_F(SuperEditTip, WithoutATextOfTheOwnerItShowsTheLimits)
+{
+    m_edit.SetInputFloat(2.5, 0, 10, FALSE, TRUE, NULL);
+    Enter();
+    EXPECT_EQ(L"最小值:0\n最大值:10\n默认值:2.5", Shown());
+    m_edit.SetAllValue(3, 1, 4);
+    Leave();
+    Enter();
+    EXPECT_EQ(L"最小值:1\n最大值:4\n默认值:3", Shown());
+    EXPECT_EQ(1, Tools());
+}
+
+TEST_F(SuperEditTip, EmptyTextOfTheOwnerCountsAsNone)
+{
+    m_edit.SetInputFloat(2.5, 0, 10, FALSE, TRUE, L"");
+    Enter();
+    EXPECT_EQ(L"最小值:0\n最大值:10\n默认值:2.5", Shown());
+}
+
+TEST_F(SuperEditTip, TextOfTheOwnerWins)
+{
+    m_edit.SetInputFloat(2.5, 0, 10, FALSE, TRUE, L"own");
+    Enter();
+    EXPECT_EQ(L"own", Shown());
+}
+
+TEST_F(SuperEditTip, LimitsAreShownOnlyWhereTipAndValueCheckAreOn)
+{
+    m_edit.SetInputFloat(2.5, 0, 10, FALSE, FALSE, NULL);
+    Enter();
+    EXPECT_TRUE(m_edit.GetTipText().IsEmpty());
+    m_edit.SetEableTip(1);
+    m_edit.SetEableValueCheck(0);
+    Leave();
+    Enter();
+    EXPECT_TRUE(m_edit.GetTipText().IsEmpty());
+}
+
+TEST_F(SuperEditTip, FailureToAddTheToolIsShown)
+{
+    ::DestroyWindow(m_tip);
+    MessageBoxAnswer answer(IDOK);
+    Enter();
+    ASSERT_FALSE(answer.Boxes().empty());
+    EXPECT_EQ(L"Create ToolTip Error!", answer.Boxes()[0].text);
+}
