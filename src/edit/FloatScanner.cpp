@@ -1,6 +1,6 @@
 #include "edit/FloatScanner.h"
 
-#include <wchar.h>
+#include <cwchar>
 
 namespace
 {

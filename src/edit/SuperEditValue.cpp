@@ -1,7 +1,7 @@
 ﻿// The numeric side of the validating edit: limits, reading and writing values.
 #include "edit/SuperEdit.h"
 
-#include <stdlib.h>
+#include <cstdlib>
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "edit/TypeRange.h"
 
-#include <float.h>
-#include <stdlib.h>
-#include <wchar.h>
+#include <cfloat>
+#include <cstdlib>
+#include <cwchar>
 
 namespace
 {

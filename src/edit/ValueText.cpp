@@ -1,8 +1,8 @@
 #include "edit/ValueText.h"
 
-#include <limits.h>
-#include <stdlib.h>
-#include <wchar.h>
+#include <climits>
+#include <cstdlib>
+#include <cwchar>
 
 #include "edit/CharTable.h"
 #include "edit/TypeRange.h"
