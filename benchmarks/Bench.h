@@ -57,5 +57,6 @@ private:
 // One file for each subject adds its figures.
 void MeasureMessageStore(Report& report);
 void MeasureMessageViewer(Report& report);
+void MeasureSortList(Report& report);
 
 } // namespace bench

@@ -35,6 +35,7 @@ int Measure(const char* path)
     bench::Report report;
     bench::MeasureMessageStore(report);
     bench::MeasureMessageViewer(report);
+    bench::MeasureSortList(report);
     report.Print();
     if (path != nullptr && !report.WriteJson(path))
     {
