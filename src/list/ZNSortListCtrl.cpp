@@ -23,19 +23,40 @@ const UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
 const int kHighlightIndent = 6; // pixels between the edge of a highlighted cell and its text
 const int kFirstColumnHighlightIndent = 2;
 
-// Guard: everything that was selected or set in a device context is put back.
+// Guard: what the drawing of a cell changes in a device context is put back. SaveDC would put back more, but takes
+// longer than all the drawing.
 class CSavedDC
 {
 public:
-    explicit CSavedDC(CDC& dc) : m_dc(dc), m_state(dc.SaveDC()) {}
-    ~CSavedDC() { m_dc.RestoreDC(m_state); }
+    explicit CSavedDC(HDC dc)
+        : m_dc(dc), m_font(::GetCurrentObject(dc, OBJ_FONT)), m_textColor(::GetTextColor(dc)),
+          m_backColor(::GetBkColor(dc)), m_backMode(::GetBkMode(dc))
+    {
+    }
+
+    ~CSavedDC()
+    {
+        SelectFont(m_font);
+        ::SetTextColor(m_dc, m_textColor);
+        ::SetBkColor(m_dc, m_backColor);
+        ::SetBkMode(m_dc, m_backMode);
+    }
+
+    void SelectFont(HGDIOBJ font)
+    {
+        if (font != NULL && font != ::GetCurrentObject(m_dc, OBJ_FONT))
+            ::SelectObject(m_dc, font);
+    }
 
 private:
     CSavedDC(const CSavedDC&);
     CSavedDC& operator=(const CSavedDC&);
 
-    CDC& m_dc;
-    int m_state;
+    HDC m_dc;
+    HGDIOBJ m_font;
+    COLORREF m_textColor;
+    COLORREF m_backColor;
+    int m_backMode;
 };
 
 // Guard: a list of one column has an empty second one while it is sorted. Some versions of the list view do not sort a
@@ -79,13 +100,16 @@ bool FetchTexts(const CListCtrl& list, int column, std::vector<CString>& texts)
     return list.GetItemCount() == rows;
 }
 
-void DrawCellText(CDC& dc, const CString& text, CRect rect, COLORREF color, CFont* font)
+void DrawCellText(CDC& dc, const CString& text, CRect rect, COLORREF color)
 {
-    if (font != NULL)
-        dc.SelectObject(font);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(color);
     dc.DrawText(text, &rect, kTextFormat);
+}
+
+HGDIOBJ FontOf(const CWnd& wnd)
+{
+    return reinterpret_cast<HGDIOBJ>(::SendMessage(wnd.m_hWnd, WM_GETFONT, 0, 0));
 }
 
 } // namespace
@@ -384,9 +408,10 @@ bool CZNSortListCtrl::DrawColor(CDC& dc, int row, int column)
     const ColorCellState state = {IsWindowEnabled() != FALSE, selected, ::GetFocus() == m_hWnd};
     const COLORREF textColor =
         selected && state.listFocused ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : ::GetSysColor(COLOR_WINDOWTEXT);
-    const CSavedDC saved(dc);
+    CSavedDC saved(dc.m_hDC);
+    saved.SelectFont(FontOf(*this));
     DrawColorCell(dc, cell, ColorCellBackground(state), SwatchColor(ZNKTPub::GetColorFromName(text)));
-    DrawCellText(dc, text, ColorTextRect(cell), textColor, GetFont());
+    DrawCellText(dc, text, ColorTextRect(cell), textColor);
     return true;
 }
 
@@ -398,11 +423,12 @@ bool CZNSortListCtrl::DrawHighlight(CDC& dc, int row, int column)
     CRect cell;
     if (!::IsWindow(m_hWnd) || !GetSubItemRect(row, column, LVIR_LABEL, cell))
         return false;
-    const CSavedDC saved(dc);
+    CSavedDC saved(dc.m_hDC);
+    saved.SelectFont(FontOf(*this));
     dc.FillSolidRect(&cell, ::GetSysColor(COLOR_HIGHLIGHT));
     dc.DrawFocusRect(&cell);
     cell.left += column == 0 ? kFirstColumnHighlightIndent : kHighlightIndent;
-    DrawCellText(dc, text, cell, ::GetSysColor(COLOR_HIGHLIGHTTEXT), GetFont());
+    DrawCellText(dc, text, cell, ::GetSysColor(COLOR_HIGHLIGHTTEXT));
     return true;
 }
 
