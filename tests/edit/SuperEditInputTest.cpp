@@ -35,6 +35,18 @@ protected:
         }
     }
 
+    // Dispatches as the framework does, so that messages are relayed to the tip.
+    static bool PumpUntilATipIsShown()
+    {
+        return WaitFor([] {
+            MSG message;
+            while (::PeekMessageW(&message, NULL, 0, 0, PM_NOREMOVE))
+                AfxGetThread()->PumpMessage();
+            const HWND tip = ::FindWindowW(TOOLTIPS_CLASSW, NULL);
+            return tip != NULL && ::IsWindowVisible(tip);
+        });
+    }
+
     bool Shows(const wchar_t* text)
     {
         return WaitFor([this, text] { return Text() == text; });
@@ -82,4 +94,20 @@ TEST_F(SuperEditInput, BackspaceAndArrowsEdit)
         SendKey(key, 0, KEYEVENTF_KEYUP);
     }
     EXPECT_TRUE(Shows(L"13"));
+}
+
+TEST_F(SuperEditInput, MouseThatRestsOnTheControlShowsTheTip)
+{
+    m_edit.SetInputInt(5, 1, 10, FALSE, TRUE, L"tip");
+    Leave();
+    Enter();
+    CRect rect;
+    m_edit.GetWindowRect(&rect);
+    ::SetCursorPos(rect.left + 5, rect.top + 5);
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_MOVE;
+    input.mi.dx = 1;
+    ::SendInput(1, &input, sizeof(input));
+    EXPECT_TRUE(PumpUntilATipIsShown());
 }

@@ -17,6 +17,40 @@ BOOL CALLBACK CollectTip(HWND window, LPARAM tips)
     return TRUE;
 }
 
+// Counts what is relayed to a tip window.
+class RelayCounter
+{
+public:
+    explicit RelayCounter(HWND tip) : m_tip(tip)
+    {
+        s_relayed = 0;
+        s_former = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrW(tip, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RelayCounter::Proc)));
+    }
+
+    ~RelayCounter() { ::SetWindowLongPtrW(m_tip, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_former)); }
+
+    RelayCounter(const RelayCounter&) = delete;
+    RelayCounter& operator=(const RelayCounter&) = delete;
+
+    int Count() const { return s_relayed; }
+
+private:
+    static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        s_relayed += message == TTM_RELAYEVENT;
+        return ::CallWindowProcW(s_former, window, message, wParam, lParam);
+    }
+
+    static int s_relayed;
+    static WNDPROC s_former;
+
+    HWND m_tip;
+};
+
+int RelayCounter::s_relayed = 0;
+WNDPROC RelayCounter::s_former = NULL;
+
 class SuperEditTip : public EditFixture
 {
 protected:
@@ -132,6 +166,19 @@ TEST_F(SuperEditTip, LimitsAreShownOnlyWhereTipAndValueCheckAreOn)
     Leave();
     Enter();
     EXPECT_TRUE(m_edit.GetTipText().IsEmpty());
+}
+
+TEST_F(SuperEditTip, MessagesAreRelayedWhileTheTipIsEnabled)
+{
+    const RelayCounter counter(m_tip);
+    MSG message = {};
+    message.hwnd = m_edit.m_hWnd;
+    message.message = WM_MOUSEMOVE;
+    m_edit.PreTranslateMessage(&message);
+    EXPECT_EQ(0, counter.Count());
+    m_edit.SetEableTip(1);
+    m_edit.PreTranslateMessage(&message);
+    EXPECT_EQ(1, counter.Count());
 }
 
 TEST_F(SuperEditTip, FailureToAddTheToolIsShown)
