@@ -1,4 +1,5 @@
 // The window messages and timers of the module, with sender, receiver, parameters and result.
+// What the validating edit sends to its parent is the client's business too: edit/SuperEditTypes.h.
 #pragma once
 
 // The host asks a modeless dialog that has the focus, before it takes the focus back to the drawing.
