@@ -31,10 +31,18 @@ public:
     // Called for every notification of the list that reaches this window.
     std::function<void(NMHDR&)> onNotify;
 
+    // Whether a change of a row is refused before the list hears of it, as an owner without the framework may do.
+    std::function<bool(NMLISTVIEW&)> refuse;
+
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override
     {
         NMHDR& notification = *reinterpret_cast<NMHDR*>(lParam);
+        if (refuse && notification.code == LVN_ITEMCHANGING && refuse(reinterpret_cast<NMLISTVIEW&>(notification)))
+        {
+            *result = TRUE;
+            return TRUE;
+        }
         // The list takes its share first, as with any owner that has a message map.
         const BOOL handled = CWnd::OnNotify(wParam, lParam, result);
         if (!handled)

@@ -221,6 +221,20 @@ TEST_F(SortListPicture, BadNoticesDrawNothing)
     EXPECT_NE(CDRF_SKIPDEFAULT, Send(notice));
 }
 
+TEST_F(SortListPicture, TheOwnerMayDestroyTheListWhileACellIsDrawn)
+{
+    Fill({{L"a", L"Red"}, {L"b", L"Red"}});
+    m_list.SetItemText(0, 1, LPSTR_TEXTCALLBACK);
+    m_list.SetIsColorColumn(1, 1);
+    NMLVCUSTOMDRAW notice = Notice(kCellStage, 0, 1);
+    m_owner.onNotify = [this](NMHDR& notification) {
+        if (notification.code == LVN_GETDISPINFO)
+            m_list.DestroyWindow();
+    };
+    EXPECT_NE(CDRF_SKIPDEFAULT, Send(notice));
+    EXPECT_FALSE(::IsWindow(m_list.m_hWnd));
+}
+
 TEST_F(SortListPicture, TheWindowShowsStripesAndSwatches)
 {
     Fill({{L"a", L"Red"}, {L"b", L"Green"}, {L"c", L"ByLayer"}});

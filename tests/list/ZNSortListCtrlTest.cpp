@@ -447,3 +447,21 @@ TEST_F(SortList, TheOwnerMayDestroyTheListInAnyNotification)
         m_owner.onNotify = nullptr;
     }
 }
+
+TEST_F(SortList, AnOwnerThatRefusesTheIndicesKeepsRowsAndItemData)
+{
+    FillColumn({L"b", L"c", L"a"});
+    for (int refused = 0; refused < 3; ++refused)
+    {
+        bool wasRefused = false;
+        m_owner.refuse = [&](NMLISTVIEW& change) {
+            const bool isIt = !wasRefused && change.iItem == refused && change.uChanged == LVIF_PARAM;
+            wasRefused = wasRefused || isIt;
+            return isIt;
+        };
+        m_list.SortColumn(0, 0, 1);
+        EXPECT_TRUE(wasRefused);
+        EXPECT_EQ((Texts{L"b", L"c", L"a"}), Column(0));
+        EXPECT_EQ((std::vector<DWORD_PTR>{1000, 1001, 1002}), Data());
+    }
+}
