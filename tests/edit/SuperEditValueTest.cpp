@@ -287,6 +287,17 @@ TEST_F(SuperEditValue, WritingAnswersWhetherTheTextIsAcceptable)
     EXPECT_EQ(1, m_edit.SetWindowValue(5.0));
 }
 
+TEST_F(SuperEditValue, UnsignedSetsJudgeTheTextThatWasWrittenAndOthersTheNumber)
+{
+    for (const VVEset set : {VVE_DECIMAL, VVE_HEX, VVE_OCTAL, VVE_BINARY})
+    {
+        m_edit.SetValidCharSet(set, NULL);
+        EXPECT_EQ(1, m_edit.SetWindowValue(-1.0)) << set;
+    }
+    m_edit.SetValidCharSet(VVE_SIGNED, NULL);
+    EXPECT_EQ(0, m_edit.SetWindowValue(4294967295.0));
+}
+
 TEST_F(SuperEditValue, UnknownSetLeavesTheTextForIntegers)
 {
     m_edit.SetValidCharSet(static_cast<VVEset>(10), NULL);
