@@ -1,33 +1,8 @@
 #include "afx/ctrl/TreeCtrl.h"
 
-#include "afx/ctrl/Edit.h"
-#include "afx/ctrl/ToolTipCtrl.h"
-#include "afx/gdi/ImageList.h"
+#include "afx/ctrl/ControlHandles.h"
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
-
-namespace
-{
-const int FirstTextLength = 256;
-const UINT StateImageShift = 12;
-const UINT CheckedImage = 2;
-const UINT UncheckedImage = 1;
-
-CImageList* ImageListOf(LRESULT handle)
-{
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(handle));
-}
-
-CEdit* EditOf(LRESULT handle)
-{
-    return static_cast<CEdit*>(CWnd::FromHandle(reinterpret_cast<HWND>(handle)));
-}
-
-CToolTipCtrl* ToolTipOf(LRESULT handle)
-{
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(handle)));
-}
-} // namespace
 
 BOOL CTreeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
