@@ -83,6 +83,33 @@ BOOL CALLBACK PaintPopup(HWND window, LPARAM owner)
     return TRUE;
 }
 
+struct DialogSearch
+{
+    HWND frame;
+    std::wstring title;
+    HWND found;
+};
+
+// An enumeration ends with FALSE.
+BOOL CALLBACK TakeDialog(HWND window, LPARAM parameter)
+{
+    DialogSearch& search = *reinterpret_cast<DialogSearch*>(parameter);
+    CString title;
+    CWnd::FromHandle(window)->GetWindowText(title);
+    const bool isDialog = GetClassLongPtrW(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
+    if (isDialog && IsWindowVisible(window) && search.title == title.GetString())
+        search.found = window;
+    return search.found == nullptr;
+}
+
+BOOL CALLBACK SearchOwnedDialog(HWND window, LPARAM parameter)
+{
+    DialogSearch& search = *reinterpret_cast<DialogSearch*>(parameter);
+    if (GetWindow(window, GW_OWNER) == search.frame && TakeDialog(window, parameter))
+        EnumChildWindows(window, &TakeDialog, parameter);
+    return search.found == nullptr;
+}
+
 class ScreenDc
 {
 public:
@@ -118,6 +145,22 @@ HBITMAP CopyScreen(const CRect& area)
     return bitmap;
 }
 
+std::wstring SaveArea(CWnd& frame, const CRect& area, const std::wstring& path)
+{
+    const GdiPlusGuard gdiPlus;
+    CLSID encoder{};
+    if (!gdiPlus.IsStarted() || !FindPngEncoder(encoder))
+        return L"系统不能生成 PNG 图片。";
+    EnumWindows(&PaintPopup, reinterpret_cast<LPARAM>(frame.m_hWnd));
+    GdiFlush();
+    LetPaintingReachScreen();
+    const arxui::GdiObject<HBITMAP> shot(CopyScreen(area));
+    Gdiplus::Bitmap picture(shot.Get(), nullptr);
+    if (picture.Save(path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
+        return L"无法写入图片“" + path + L"”。";
+    return std::wstring();
+}
+
 } // namespace
 
 CRect AreaWithPopups(HWND window)
@@ -133,18 +176,17 @@ CRect AreaWithPopups(HWND window)
 
 std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path)
 {
-    const GdiPlusGuard gdiPlus;
-    CLSID encoder{};
-    if (!gdiPlus.IsStarted() || !FindPngEncoder(encoder))
-        return L"系统不能生成 PNG 图片。";
-    EnumWindows(&PaintPopup, reinterpret_cast<LPARAM>(frame.m_hWnd));
-    GdiFlush();
-    LetPaintingReachScreen();
-    const arxui::GdiObject<HBITMAP> shot(CopyScreen(AreaWithPopups(frame.m_hWnd)));
-    Gdiplus::Bitmap picture(shot.Get(), nullptr);
-    if (picture.Save(path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
-        return L"无法写入图片“" + path + L"”。";
-    return std::wstring();
+    return SaveArea(frame, AreaWithPopups(frame.m_hWnd), path);
+}
+
+std::wstring SaveDialogShot(CWnd& frame, const std::wstring& title, const std::wstring& path)
+{
+    DialogSearch search{frame.m_hWnd, title, nullptr};
+    EnumWindows(&SearchOwnedDialog, reinterpret_cast<LPARAM>(&search));
+    CRect area;
+    if (search.found == nullptr || !GetWindowRect(search.found, &area))
+        return L"没有打开标题为“" + title + L"”的对话框。";
+    return SaveArea(frame, area, path);
 }
 
 } // namespace arxhost

@@ -15,7 +15,7 @@ namespace
 const wchar_t arxUsage[] = L"ARX（模块） L 模块.arx | U 模块.arx | ?：加载、卸载、列出模块";
 const wchar_t scriptUsage[] = L"SCRIPT（脚本） 文件.scr：逐行运行脚本";
 const wchar_t delayUsage[] = L"DELAY（延时） 毫秒：脚本暂停一段时间";
-const wchar_t shotUsage[] = L"SHOT（画面） 文件.png：把窗口和浮动面板保存为图片";
+const wchar_t shotUsage[] = L"SHOT（画面） 文件.png [对话框标题]：把窗口和浮动面板，或者一个对话框，保存为图片";
 const wchar_t helpUsage[] = L"HELP（帮助、?）：命令列表";
 const wchar_t quitUsage[] = L"QUIT（退出）：结束程序";
 
@@ -87,7 +87,7 @@ void Shot(MainFrame& frame, const Words& words)
     const std::wstring path = AskForFile(frame, words, false, L"png", L"图片 (*.png)|*.png||", shotUsage);
     if (path.empty())
         return;
-    const std::wstring error = SaveFrameShot(frame, path);
+    const std::wstring error = words.size() > 1 ? SaveDialogShot(frame, words[1], path) : SaveFrameShot(frame, path);
     if (!error.empty())
         throw CommandFailure{error};
     frame.Command().Print(L"画面已保存：" + path + L"\n");

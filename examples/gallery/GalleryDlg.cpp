@@ -1,0 +1,268 @@
+﻿#include "GalleryDlg.h"
+
+#include "GalleryFilter.h"
+#include "GalleryIds.h"
+#include "GalleryLayout.h"
+
+#include <AcExtensionModule.h>
+#include <aced.h>
+#include <adui.h>
+#include <rxmfcapi.h>
+
+namespace
+{
+
+struct Anchor
+{
+    int control;
+    int anchor;
+};
+
+const Anchor kAnchors[] = {
+    {IDC_GALLERY_TREE, GALLERY_GROW_HEIGHT},       {IDC_GALLERY_TITLE, GALLERY_GROW_WIDTH},
+    {IDC_GALLERY_DESCRIPTION, GALLERY_GROW_WIDTH}, {IDC_GALLERY_PAGE_AREA, GALLERY_GROW_WIDTH | GALLERY_GROW_HEIGHT},
+    {IDC_GALLERY_CODE_LABEL, GALLERY_MOVE_DOWN},   {IDC_GALLERY_CODE, GALLERY_GROW_WIDTH | GALLERY_MOVE_DOWN},
+};
+
+// Tenths of a point.
+const int kTitleSize = 120;
+const int kCodeSize = 90;
+
+CString WithReturns(CString text)
+{
+    text.Replace(L"\n", L"\r\n");
+    return text;
+}
+
+} // namespace
+
+CGalleryDlg* CGalleryDlg::s_current = nullptr;
+
+BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
+    ON_WM_SIZE()
+    ON_WM_GETMINMAXINFO()
+    ON_EN_CHANGE(IDC_GALLERY_SEARCH, &CGalleryDlg::OnSearchChange)
+    ON_NOTIFY(TVN_SELCHANGED, IDC_GALLERY_TREE, &CGalleryDlg::OnTreeSelection)
+    ON_MESSAGE(WM_ACAD_KEEPFOCUS, &CGalleryDlg::OnKeepFocus)
+END_MESSAGE_MAP()
+
+CGalleryDlg* CGalleryDlg::Show()
+{
+    if (s_current == nullptr)
+    {
+        const CAcModuleResourceOverride resources;
+        CGalleryDlg* const dialog = new CGalleryDlg;
+        if (!dialog->Create(IDD_GALLERY, acedGetAcadFrame()))
+        {
+            delete dialog;
+            return nullptr;
+        }
+        s_current = dialog;
+        dialog->ShowPage(GalleryPages().front());
+    }
+    s_current->ShowWindow(s_current->IsIconic() ? SW_RESTORE : SW_SHOW);
+    s_current->SetForegroundWindow();
+    s_current->m_tree.SetFocus();
+    return s_current;
+}
+
+void CGalleryDlg::Close()
+{
+    if (s_current != nullptr)
+        s_current->DestroyWindow();
+}
+
+void CGalleryDlg::ShowPage(const GalleryEntry& entry)
+{
+    if (ItemOf(entry) == nullptr)
+        m_search.SetWindowText(L""); // the search hides it
+    m_tree.SelectItem(ItemOf(entry));
+}
+
+BOOL CGalleryDlg::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN && message->wParam == L'F' && ::GetKeyState(VK_CONTROL) < 0)
+    {
+        GoToSearch();
+        return TRUE;
+    }
+    return CDialog::PreTranslateMessage(message);
+}
+
+BOOL CGalleryDlg::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    m_tree.SubclassDlgItem(IDC_GALLERY_TREE, this);
+    m_search.SubclassDlgItem(IDC_GALLERY_SEARCH, this);
+    RememberPlaces();
+    MakeFonts();
+    FillTree();
+    return TRUE;
+}
+
+// Enter: from the search to what it found. The window stays open.
+void CGalleryDlg::OnOK()
+{
+    if (GetFocus() == &m_search)
+        m_tree.SetFocus();
+}
+
+void CGalleryDlg::OnCancel()
+{
+    DestroyWindow();
+}
+
+void CGalleryDlg::PostNcDestroy()
+{
+    if (s_current == this)
+        s_current = nullptr;
+    delete this;
+}
+
+void CGalleryDlg::OnSize(UINT type, int cx, int cy)
+{
+    CDialog::OnSize(type, cx, cy);
+    if (type == SIZE_MINIMIZED || m_places.empty())
+        return;
+    const CSize growth(cx - m_smallestClient.cx, cy - m_smallestClient.cy);
+    for (const Anchor& anchor : kAnchors)
+        GetDlgItem(anchor.control)->MoveWindow(AnchoredRect(m_places[anchor.control], anchor.anchor, growth));
+    PlacePage();
+}
+
+void CGalleryDlg::OnGetMinMaxInfo(MINMAXINFO* info)
+{
+    CDialog::OnGetMinMaxInfo(info);
+    info->ptMinTrackSize = CPoint(m_smallestWindow.cx, m_smallestWindow.cy);
+}
+
+void CGalleryDlg::OnSearchChange()
+{
+    FillTree();
+}
+
+void CGalleryDlg::OnTreeSelection(NMHDR* /*notification*/, LRESULT* result)
+{
+    *result = 0;
+    const GalleryEntry* entry = m_filling ? nullptr : EntryOf(m_tree.GetSelectedItem());
+    if (entry != nullptr && entry != m_entry)
+        OpenPage(*entry);
+}
+
+// Keys are meant for the gallery, not for the host's command line.
+LRESULT CGalleryDlg::OnKeepFocus(WPARAM /*wParam*/, LPARAM /*lParam*/)
+{
+    return TRUE;
+}
+
+void CGalleryDlg::RememberPlaces()
+{
+    CRect rect;
+    GetWindowRect(&rect);
+    m_smallestWindow = rect.Size();
+    GetClientRect(&rect);
+    m_smallestClient = rect.Size();
+    for (const Anchor& anchor : kAnchors)
+    {
+        CRect place;
+        GetDlgItem(anchor.control)->GetWindowRect(&place);
+        ScreenToClient(&place);
+        m_places[anchor.control] = place;
+    }
+}
+
+void CGalleryDlg::MakeFonts()
+{
+    LOGFONT title = {};
+    GetFont()->GetLogFont(&title);
+    title.lfWeight = FW_BOLD;
+    title.lfHeight = kTitleSize;
+    m_titleFont.CreatePointFontIndirect(&title);
+    GetDlgItem(IDC_GALLERY_TITLE)->SetFont(&m_titleFont);
+    m_codeFont.CreatePointFont(kCodeSize, L"新宋体");
+    GetDlgItem(IDC_GALLERY_CODE)->SetFont(&m_codeFont);
+}
+
+// What the search finds, in groups that are open; the page that is open stays selected when it is among it.
+void CGalleryDlg::FillTree()
+{
+    CString search;
+    m_search.GetWindowText(search);
+    m_filling = true;
+    m_tree.SetRedraw(FALSE);
+    m_tree.DeleteAllItems();
+    for (const GalleryEntry& entry : GalleryPages())
+    {
+        if (!MatchesSearch(entry, search))
+            continue;
+        const HTREEITEM group = GroupItem(entry.group);
+        m_tree.SetItemData(m_tree.InsertItem(entry.title, group), reinterpret_cast<DWORD_PTR>(&entry));
+        m_tree.Expand(group, TVE_EXPAND);
+    }
+    m_filling = false;
+    const HTREEITEM current = m_entry != nullptr ? ItemOf(*m_entry) : nullptr;
+    m_tree.SelectItem(current != nullptr ? current : m_tree.GetChildItem(m_tree.GetRootItem()));
+    m_tree.SetRedraw(TRUE);
+}
+
+HTREEITEM CGalleryDlg::GroupItem(const wchar_t* group)
+{
+    for (HTREEITEM item = m_tree.GetRootItem(); item != nullptr; item = m_tree.GetNextSiblingItem(item))
+    {
+        if (m_tree.GetItemText(item) == group)
+            return item;
+    }
+    return m_tree.InsertItem(group);
+}
+
+const GalleryEntry* CGalleryDlg::EntryOf(HTREEITEM item) const
+{
+    return item != nullptr ? reinterpret_cast<const GalleryEntry*>(m_tree.GetItemData(item)) : nullptr;
+}
+
+HTREEITEM CGalleryDlg::ItemOf(const GalleryEntry& entry) const
+{
+    for (HTREEITEM group = m_tree.GetRootItem(); group != nullptr; group = m_tree.GetNextSiblingItem(group))
+    {
+        for (HTREEITEM item = m_tree.GetChildItem(group); item != nullptr; item = m_tree.GetNextSiblingItem(item))
+        {
+            if (EntryOf(item) == &entry)
+                return item;
+        }
+    }
+    return nullptr;
+}
+
+void CGalleryDlg::OpenPage(const GalleryEntry& entry)
+{
+    if (m_page)
+        m_page->DestroyWindow();
+    m_entry = &entry;
+    m_page.reset(entry.make());
+    SetDlgItemText(IDC_GALLERY_TITLE, entry.title);
+    SetDlgItemText(IDC_GALLERY_DESCRIPTION, entry.description);
+    SetDlgItemText(IDC_GALLERY_CODE, WithReturns(entry.code));
+    if (!m_page->CreateIn(*this))
+        return;
+    m_page->SetWindowText(entry.title);
+    PlacePage();
+    m_page->ShowWindow(SW_SHOWNA);
+}
+
+// Behind the page's area in the order of the keyboard: tree, page, code.
+void CGalleryDlg::PlacePage()
+{
+    if (!m_page || m_page->GetSafeHwnd() == nullptr)
+        return;
+    CWnd* const area = GetDlgItem(IDC_GALLERY_PAGE_AREA);
+    CRect rect;
+    area->GetWindowRect(&rect);
+    ScreenToClient(&rect);
+    m_page->SetWindowPos(area, rect.left, rect.top, rect.Width(), rect.Height(), SWP_NOACTIVATE);
+}
+
+void CGalleryDlg::GoToSearch()
+{
+    m_search.SetFocus();
+    m_search.SetSel(0, -1);
+}

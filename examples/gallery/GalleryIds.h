@@ -1,0 +1,27 @@
+// Resource identifiers of the gallery. Every page has a block of fifty of its own: the template first, then the
+// controls.
+#ifndef GALLERY_IDS_H
+#define GALLERY_IDS_H
+
+// The window: 1000 to 1049
+#define IDD_GALLERY 1000
+#define IDC_GALLERY_SEARCH_LABEL 1001
+#define IDC_GALLERY_SEARCH 1002
+#define IDC_GALLERY_TREE 1003
+#define IDC_GALLERY_TITLE 1004
+#define IDC_GALLERY_DESCRIPTION 1005
+#define IDC_GALLERY_PAGE_AREA 1006
+#define IDC_GALLERY_CODE_LABEL 1007
+#define IDC_GALLERY_CODE 1008
+
+// Validating edit: 1050 to 1099
+
+// Input dialog: 1100 to 1149
+
+// Sortable list: 1150 to 1199
+#define IDD_SORT_LIST_PAGE 1150
+#define IDC_SORT_LIST 1151
+
+// Editable list: 1200 to 1249
+
+#endif

@@ -1,0 +1,32 @@
+﻿#include "GalleryPages.h"
+
+#include "pages/SortListPage.h"
+
+namespace
+{
+
+template<class PAGE>
+GalleryEntry Page(const wchar_t* name, const wchar_t* group, const wchar_t* title)
+{
+    return {name, group, title, PAGE::Description, PAGE::Code, []() -> CGalleryPage* { return new PAGE; }};
+}
+
+} // namespace
+
+const std::vector<GalleryEntry>& GalleryPages()
+{
+    static const std::vector<GalleryEntry> pages = {
+        Page<CSortListPage>(L"sort-list", L"列表", L"可排序列表"),
+    };
+    return pages;
+}
+
+const GalleryEntry* FindGalleryPage(const CString& nameOrTitle)
+{
+    for (const GalleryEntry& entry : GalleryPages())
+    {
+        if (nameOrTitle.CompareNoCase(entry.name) == 0 || nameOrTitle.CompareNoCase(entry.title) == 0)
+            return &entry;
+    }
+    return nullptr;
+}
