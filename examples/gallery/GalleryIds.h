@@ -14,9 +14,17 @@
 #define IDC_GALLERY_CODE_LABEL 1007
 #define IDC_GALLERY_CODE 1008
 
-// Validating edit: 1050 to 1099
+// Validating edit: 1050 to 1099; each column has one control a row
+#define IDD_SUPER_EDIT_PAGE 1050
+#define IDC_SUPER_EDIT_TEXT 1051
+#define IDC_SUPER_EDIT_VERDICT 1062
+#define IDC_SUPER_EDIT_RANGE 1073
+#define IDC_SUPER_EDIT_NOTICE 1084
 
 // Input dialog: 1100 to 1149
+#define IDD_INPUT_DIALOG_PAGE 1100
+#define IDC_INPUT_DIALOG_ASK 1101
+#define IDC_INPUT_DIALOG_ANSWER 1102
 
 // Sortable list: 1150 to 1199
 #define IDD_SORT_LIST_PAGE 1150

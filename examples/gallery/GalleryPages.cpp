@@ -1,6 +1,8 @@
 ﻿#include "GalleryPages.h"
 
+#include "pages/InputDialogPage.h"
 #include "pages/SortListPage.h"
+#include "pages/SuperEditPage.h"
 
 namespace
 {
@@ -16,6 +18,8 @@ GalleryEntry Page(const wchar_t* name, const wchar_t* group, const wchar_t* titl
 const std::vector<GalleryEntry>& GalleryPages()
 {
     static const std::vector<GalleryEntry> pages = {
+        Page<CSuperEditPage>(L"super-edit", L"输入", L"校验编辑框"),
+        Page<CInputDialogPage>(L"input-dialog", L"输入", L"输入对话框"),
         Page<CSortListPage>(L"sort-list", L"列表", L"可排序列表"),
     };
     return pages;

@@ -36,16 +36,17 @@ HostArguments ReadArguments(const std::vector<std::wstring>& arguments)
         }
         const std::wstring name = Lower(arguments[i].substr(1));
         const bool hasValue = i + 1 < arguments.size() && !IsSwitch(arguments[i + 1]);
-        if (name != L"ld" && name != L"b")
+        std::wstring* const single = name == L"b" ? &read.script : name == L"c" ? &read.command : nullptr;
+        if (name != L"ld" && single == nullptr)
             read.error = L"未知的启动参数：" + arguments[i];
         else if (!hasValue)
-            read.error = L"启动参数 " + arguments[i] + L" 后面缺少文件名";
+            read.error = L"启动参数 " + arguments[i] + L" 后面缺少内容";
         else if (name == L"ld")
             read.modules.push_back(arguments[++i]);
-        else if (!read.script.empty())
+        else if (!single->empty())
             read.error = L"启动参数 " + arguments[i] + L" 只能出现一次";
         else
-            read.script = arguments[++i];
+            *single = arguments[++i];
     }
     return read;
 }

@@ -1,4 +1,4 @@
-// The arguments of the host program: arxhost [drawing.dxf ...] [/ld module.arx ...] [/b script.scr]
+// The arguments of the host program: arxhost [drawing.dxf ...] [/ld module.arx ...] [/c command] [/b script.scr]
 #pragma once
 
 #include <string>
@@ -11,8 +11,9 @@ struct HostArguments
 {
     std::vector<std::wstring> drawings;
     std::vector<std::wstring> modules;
-    std::wstring script; // empty: interactive
-    std::wstring error;  // a message for the user when an argument makes no sense, else empty
+    std::wstring command; // a line that is run first of all; the program goes on afterwards
+    std::wstring script;  // empty: interactive
+    std::wstring error;   // a message for the user when an argument makes no sense, else empty
 };
 
 // Reads the arguments (without the program name). Switches may be written /x or -x in any letter case. The first

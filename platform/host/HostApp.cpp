@@ -79,6 +79,7 @@ bool HostApp::Start(const HostArguments& arguments)
         Attempt([&] { m_frame->LoadModule(module); });
     if (!arguments.script.empty() && !m_frame->HasFailed())
         Attempt([&] { m_frame->StartScript(arguments.script); });
+    m_frame->Scripts().Add(L"/c", arguments.command);
     return true;
 }
 

@@ -35,9 +35,12 @@ struct Layer
 };
 
 const Layer kLayers[] = {
-    {L"轮廓线", L"128", L"白"}, {L"中心线", L"24", L"红"},     {L"标注", L"9", L"绿"},
-    {L"剖面线", L"310", L"30"}, {L"虚线", L"57", L"黄"},       {L"文字", L"86", L"青"},
-    {L"螺纹", L"12", L"洋红"},  {L"焊缝", L"3", L"255,128,0"}, {L"图框", L"41", L"蓝"},
+    {L"轮廓线", L"128", L"白"},   {L"中心线", L"24", L"红"},     {L"标注", L"9", L"绿"},
+    {L"剖面线", L"310", L"30"},   {L"虚线", L"57", L"黄"},       {L"文字", L"86", L"青"},
+    {L"螺纹", L"12", L"洋红"},    {L"焊缝", L"3", L"255,128,0"}, {L"图框", L"41", L"蓝"},
+    {L"标题栏", L"18", L"随层"},  {L"明细表", L"64", L"8"},      {L"粗糙度", L"7", L"随块"},
+    {L"局部视图", L"33", L"140"}, {L"断裂线", L"5", L"200"},     {L"Defpoints", L"2", L"白"},
+    {L"0", L"71", L"白"},
 };
 
 } // namespace
@@ -63,7 +66,7 @@ BOOL CSortListPage::OnInitDialog()
         m_layers.SetItemText(row, COLUMN_COLOUR, layer.colour);
     }
     m_layers.SetIsColorColumn(COLUMN_COLOUR, 1);
-    m_layers.SetCellHighlight(true, -1, -1);
     m_layers.SortColumn(COLUMN_OBJECTS, 1, 0);
+    m_layers.SetCellHighlight(true, 2, COLUMN_LAYER);
     return TRUE;
 }

@@ -35,6 +35,19 @@ TEST(CommandLine, SwitchWithoutItsFileIsAnError)
     EXPECT_NE(L"", ReadArguments({L"/ld", L"/b", L"a.scr"}).error);
 }
 
+TEST(CommandLine, CommandIsTold)
+{
+    const HostArguments read = ReadArguments({L"/c", L"ZOOM E", L"a.dxf"});
+    EXPECT_EQ(L"", read.error);
+    EXPECT_EQ(L"ZOOM E", read.command);
+    EXPECT_EQ((std::vector<std::wstring>{L"a.dxf"}), read.drawings);
+}
+
+TEST(CommandLine, SecondCommandIsAnError)
+{
+    EXPECT_NE(L"", ReadArguments({L"/c", L"ZOOM", L"/c", L"NEW"}).error);
+}
+
 TEST(CommandLine, SecondScriptIsAnError)
 {
     EXPECT_NE(L"", ReadArguments({L"/b", L"a.scr", L"/b", L"b.scr"}).error);
