@@ -58,5 +58,6 @@ private:
 void MeasureMessageStore(Report& report);
 void MeasureMessageViewer(Report& report);
 void MeasureSortList(Report& report);
+void MeasureSuperEdit(Report& report);
 
 } // namespace bench

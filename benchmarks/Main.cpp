@@ -36,6 +36,7 @@ int Measure(const char* path)
     bench::MeasureMessageStore(report);
     bench::MeasureMessageViewer(report);
     bench::MeasureSortList(report);
+    bench::MeasureSuperEdit(report);
     report.Print();
     if (path != nullptr && !report.WriteJson(path))
     {

@@ -121,13 +121,14 @@ BEGIN_MESSAGE_MAP(CZNSortListCtrl, CListCtrl)
     ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &CZNSortListCtrl::OnCustomDraw)
     ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGING, &CZNSortListCtrl::OnItemChange)
     ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &CZNSortListCtrl::OnItemChange)
+    ON_WM_PAINT()
     ON_WM_LBUTTONDOWN()
     ON_WM_RBUTTONDOWN()
 END_MESSAGE_MAP()
 
 CZNSortListCtrl::CZNSortListCtrl()
     : m_bArrowsMade(false), m_bCellHighlight(false), m_nHighlightItem(-1), m_nHighlightSubItem(-1), m_nSortEnabled(1),
-      m_mapColorColumns(kColorColumnBlock), m_sorting(false)
+      m_mapColorColumns(kColorColumnBlock), m_sorting(false), m_painting(false), m_isFocusedWhilePainting(false)
 {
 }
 
@@ -256,6 +257,15 @@ BOOL CZNSortListCtrl::OnItemChange(NMHDR* notification, LRESULT* result)
 {
     *result = 0;
     return m_sorting && reinterpret_cast<NMLISTVIEW*>(notification)->uChanged == LVIF_PARAM;
+}
+
+// Where the focus is, is asked once for all cells: the answer can come from another process and takes longer than the
+// drawing of a cell.
+void CZNSortListCtrl::OnPaint()
+{
+    m_isFocusedWhilePainting = ::GetFocus() == m_hWnd;
+    const CFlagGuard painting(m_painting);
+    CListCtrl::OnPaint();
 }
 
 void CZNSortListCtrl::OnLButtonDown(UINT flags, CPoint point)
@@ -405,9 +415,8 @@ bool CZNSortListCtrl::DrawColor(CDC& dc, int row, int column)
     if (!::IsWindow(m_hWnd) || !GetCellRect(row, column, cell))
         return false;
     const bool selected = GetItemState(row, LVIS_SELECTED) != 0;
-    const ColorCellState state = {IsWindowEnabled() != FALSE, selected, ::GetFocus() == m_hWnd};
-    const COLORREF textColor =
-        selected && state.listFocused ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : ::GetSysColor(COLOR_WINDOWTEXT);
+    const ColorCellState state = {IsWindowEnabled() != FALSE, selected, selected && IsFocused()};
+    const COLORREF textColor = state.listFocused ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : ::GetSysColor(COLOR_WINDOWTEXT);
     CSavedDC saved(dc.m_hDC);
     saved.SelectFont(FontOf(*this));
     DrawColorCell(dc, cell, ColorCellBackground(state), SwatchColor(ZNKTPub::GetColorFromName(text)));
@@ -442,4 +451,9 @@ bool CZNSortListCtrl::GetCellRect(int row, int column, CRect& cell)
         return false;
     cell = CRect(cell.left + bounds.left, bounds.top, cell.right + bounds.left, bounds.bottom);
     return true;
+}
+
+bool CZNSortListCtrl::IsFocused() const
+{
+    return m_painting ? m_isFocusedWhilePainting : ::GetFocus() == m_hWnd;
 }

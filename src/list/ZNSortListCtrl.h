@@ -78,6 +78,7 @@ protected:
     afx_msg BOOL OnColumnclick(NMHDR* notification, LRESULT* result);
     afx_msg void OnCustomDraw(NMHDR* notification, LRESULT* result);
     afx_msg BOOL OnItemChange(NMHDR* notification, LRESULT* result);
+    afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
 
@@ -98,6 +99,7 @@ private:
     bool DrawColor(CDC& dc, int row, int column);
     bool DrawHighlight(CDC& dc, int row, int column);
     bool GetCellRect(int row, int column, CRect& cell);
+    bool IsFocused() const;
 
     CImageList m_imgSortArrows;
     bool m_bArrowsMade;
@@ -108,4 +110,6 @@ private:
     int m_nSortEnabled;
     CMap<int, int, int, int> m_mapColorColumns;
     bool m_sorting;
+    bool m_painting;
+    bool m_isFocusedWhilePainting;
 };

@@ -146,6 +146,28 @@ TEST_F(SortListPicture, AColourCellShowsSelectionAndDisabledState)
     EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), m_canvas.Pixel(cell.right - 1, cell.top));
 }
 
+TEST_F(SortListPicture, APaintedSelectionFollowsTheFocus)
+{
+    Fill({{L"a", L"Red"}, {L"b", L"Red"}});
+    m_list.SetIsColorColumn(1, 1);
+    m_list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    const CRect cell = Label(0, 1);
+    const auto background = [&] {
+        m_list.SendMessage(WM_PAINT, reinterpret_cast<WPARAM>(m_canvas.Dc()));
+        return m_canvas.Pixel(cell.right - 1, cell.top);
+    };
+    for (int i = 0; i < 2; ++i)
+    {
+        m_list.SetFocus();
+        EXPECT_EQ(RGB(0x31, 0x6A, 0xC5), background());
+        m_owner.SetFocus();
+        EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), background());
+    }
+    m_list.SetFocus();
+    Ask(kCellStage, 0, 1);
+    EXPECT_EQ(RGB(0x31, 0x6A, 0xC5), m_canvas.Pixel(cell.right - 1, cell.top)) << "what a paint found is not kept";
+}
+
 TEST_F(SortListPicture, OnlyTheHighlightedCellIsHighlighted)
 {
     FillColumn({L"a", L"b"});
