@@ -80,11 +80,11 @@ void CSuperEditPage::OnEditChange(UINT id)
     ShowVerdict(id - IDC_SUPER_EDIT_TEXT);
 }
 
-LRESULT CSuperEditPage::OnValidity(WPARAM wParam, LPARAM /*lParam*/)
+LRESULT CSuperEditPage::OnValidity(WPARAM wParam, LPARAM isValid)
 {
     const VVENotice& notice = *reinterpret_cast<const VVENotice*>(wParam);
     CString text;
-    text.Format(L"%d %s", notice.status, kStatusNames[notice.status]);
+    text.Format(L"%d %s", notice.status, isValid ? L"有效" : kStatusNames[notice.status]);
     SetDlgItemText(notice.controlId - IDC_SUPER_EDIT_TEXT + IDC_SUPER_EDIT_NOTICE, text);
     return 0;
 }

@@ -18,7 +18,7 @@ protected:
     BOOL OnInitDialog() override;
 
     afx_msg void OnEditChange(UINT id);
-    afx_msg LRESULT OnValidity(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnValidity(WPARAM wParam, LPARAM isValid);
 
     DECLARE_MESSAGE_MAP()
 
