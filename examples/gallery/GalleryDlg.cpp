@@ -112,6 +112,15 @@ void CGalleryDlg::OnCancel()
     DestroyWindow();
 }
 
+// The dialog that gets the keys hears of Enter on any button, one of the page included.
+BOOL CGalleryDlg::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const HWND control = reinterpret_cast<HWND>(lParam);
+    if (control != nullptr && m_page && ::GetParent(control) == m_page->GetSafeHwnd())
+        return static_cast<BOOL>(m_page->SendMessage(WM_COMMAND, wParam, lParam));
+    return CDialog::OnCommand(wParam, lParam);
+}
+
 void CGalleryDlg::PostNcDestroy()
 {
     if (s_current == this)

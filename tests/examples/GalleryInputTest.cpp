@@ -1,4 +1,4 @@
-// The gallery under a real keyboard.
+﻿// The gallery under a real keyboard.
 #include "GalleryFixture.h"
 
 #include "gallery/GalleryIds.h"
@@ -39,6 +39,41 @@ protected:
             Send(with, false);
     }
 };
+
+// Cancels the modal dialog with this title whenever it is open, from inside its message loop.
+class DialogCloser
+{
+public:
+    DialogCloser(HWND window, const wchar_t* title) : m_window(window)
+    {
+        s_title = title;
+        s_closed = 0;
+        ::SetTimer(m_window, 1, USER_TIMER_MINIMUM, &CloseDialog);
+    }
+    ~DialogCloser() { ::KillTimer(m_window, 1); }
+    DialogCloser(const DialogCloser&) = delete;
+    DialogCloser& operator=(const DialogCloser&) = delete;
+
+    int Closed() const { return s_closed; }
+
+private:
+    static void CALLBACK CloseDialog(HWND, UINT, UINT_PTR, DWORD)
+    {
+        const HWND dialog = ::FindWindowW(NULL, s_title.c_str());
+        if (dialog == NULL)
+            return;
+        ++s_closed;
+        ::SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    }
+
+    static std::wstring s_title;
+    static int s_closed;
+
+    HWND m_window;
+};
+
+std::wstring DialogCloser::s_title;
+int DialogCloser::s_closed = 0;
 
 } // namespace
 
@@ -85,6 +120,22 @@ TEST_F(GalleryInput, EnterGoesFromTheSearchToWhatItFound)
     Press(VK_RETURN);
     EXPECT_TRUE(WaitThroughFramework([this] { return IsFocused(IDC_GALLERY_TREE); }));
     EXPECT_EQ(1u, Windows().size());
+}
+
+TEST_F(GalleryInput, KeysPressTheButtonsOfThePage)
+{
+    const DialogCloser closer(Window(), L"图层");
+    for (const WORD key : {WORD(VK_SPACE), WORD(VK_RETURN)})
+    {
+        Run(L"GALLERYPAGE input-dialog");
+        Focus(IDC_GALLERY_TREE);
+        Press(VK_TAB);
+        ASSERT_TRUE(WaitThroughFramework([this] { return ::GetFocus() == PageControl(IDC_INPUT_DIALOG_ASK); }));
+        const int before = closer.Closed();
+        Press(key);
+        EXPECT_TRUE(WaitThroughFramework([&] { return closer.Closed() > before; })) << key;
+        ASSERT_EQ(1u, Windows().size());
+    }
 }
 
 TEST_F(GalleryInput, EscapeClosesFromEveryPlace)

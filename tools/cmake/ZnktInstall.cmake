@@ -4,7 +4,7 @@
 #   lib      import libraries and the CMake package ZNKTControls
 
 set(ZNKT_PLATFORM_TARGETS afx arx xtp ZnQFCBaseU ZNKTPub ZnAcadUiBase)
-set(ZNKT_MODULE_TARGETS ZNKTControls drawing_check)
+set(ZNKT_MODULE_TARGETS ZNKTControls drawing_check gallery)
 
 install(TARGETS arxhost ${ZNKT_PLATFORM_TARGETS} ${ZNKT_MODULE_TARGETS}
   RUNTIME DESTINATION bin
