@@ -59,5 +59,6 @@ void MeasureMessageStore(Report& report);
 void MeasureMessageViewer(Report& report);
 void MeasureSortList(Report& report);
 void MeasureSuperEdit(Report& report);
+void MeasureResize(Report& report);
 
 } // namespace bench

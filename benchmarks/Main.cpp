@@ -1,4 +1,5 @@
-// bench.exe [path of the JSON file]: starts the host services in this process, loads the module and measures it.
+// bench.exe [path of the JSON file [subject ...]]: starts the host services in this process, loads the module and
+// measures it: all subjects, or the named ones.
 #include "Bench.h"
 
 #include <afxwin.h>
@@ -6,8 +7,11 @@
 #include <acdocman.h>
 #include <arx/ed/HostServices.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -30,13 +34,49 @@ public:
     ~Frame() { arxhost::Reset(); }
 };
 
-int Measure(const char* path)
+struct Subject
+{
+    const char* name;
+    void (*measure)(bench::Report& report);
+};
+
+const Subject kSubjects[] = {
+    {"message-store", bench::MeasureMessageStore},
+    {"message-viewer", bench::MeasureMessageViewer},
+    {"sort-list", bench::MeasureSortList},
+    {"super-edit", bench::MeasureSuperEdit},
+    {"resize", bench::MeasureResize},
+};
+
+bool IsWanted(const char* name, const std::vector<std::string>& wanted)
+{
+    return wanted.empty() || std::find(wanted.begin(), wanted.end(), name) != wanted.end();
+}
+
+// Answers how many subjects were measured.
+int MeasureSubjects(bench::Report& report, const std::vector<std::string>& wanted)
+{
+    int count = 0;
+    for (const Subject& subject : kSubjects)
+    {
+        if (!IsWanted(subject.name, wanted))
+            continue;
+        subject.measure(report);
+        ++count;
+    }
+    return count;
+}
+
+int Measure(const char* path, const std::vector<std::string>& wanted)
 {
     bench::Report report;
-    bench::MeasureMessageStore(report);
-    bench::MeasureMessageViewer(report);
-    bench::MeasureSortList(report);
-    bench::MeasureSuperEdit(report);
+    if (MeasureSubjects(report, wanted) == 0)
+    {
+        std::fprintf(stderr, "error: nothing to measure has one of these names; there are:\n");
+        for (const Subject& subject : kSubjects)
+            std::fprintf(stderr, "  %s\n", subject.name);
+        return 1;
+    }
     report.Print();
     if (path != nullptr && !report.WriteJson(path))
     {
@@ -55,7 +95,7 @@ int main(int argc, char** argv)
     try
     {
         const Frame frame;
-        return Measure(argc > 1 ? argv[1] : nullptr);
+        return Measure(argc > 1 ? argv[1] : nullptr, std::vector<std::string>(argv + std::min(argc, 2), argv + argc));
     }
     catch (const std::exception& e)
     {
