@@ -112,6 +112,11 @@ TEST(HostProgram, ArgumentThatMakesNoSenseEndsWithOne)
     EXPECT_EQ(1u, RunHost(L"/unknown"));
 }
 
+TEST(HostProgram, CommandOfTheArgumentsIsRun)
+{
+    EXPECT_EQ(0u, RunHost(L"/c QUIT"));
+}
+
 TEST(HostProgram, QuitEndsAScriptEarly)
 {
     EXPECT_EQ(0u, RunScript(L"", "QUIT\nNOSUCHCOMMAND\n"));
