@@ -6,3 +6,8 @@
 #include "edit/SuperEdit.h"
 #include "list/ZNSortListCtrl.h"
 #include "msg/KTMsgWnd.h"
+#include "tree/AddedIconTreeCtrl.h"
+#include "tree/ComboButtonIMPItem.h"
+#include "tree/MFCCommonTree.h"
+#include "tree/MFCUtils.h"
+#include "tree/StateTreeCtrl.h"
