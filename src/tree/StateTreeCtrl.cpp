@@ -300,7 +300,7 @@ HTREEITEM CStateTreeCtrl::FindToggled(UINT message, WPARAM wParam, LPARAM lParam
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK: {
         UINT where = 0;
-        const HTREEITEM item = HitTest(CPoint(static_cast<DWORD>(lParam)), &where);
+        const HTREEITEM item = HitTest(CPoint(lParam), &where);
         return (where & TVHT_ONITEMSTATEICON) != 0 ? item : NULL;
     }
     case WM_KEYDOWN:
