@@ -1,6 +1,7 @@
 ﻿#include "host/FrameShot.h"
 
 #include "arx/ui/GdiGuards.h"
+#include "host/DialogSearch.h"
 
 #include <algorithm>
 #include <objidl.h>
@@ -69,7 +70,7 @@ BOOL CALLBACK AddPopup(HWND window, LPARAM search)
 {
     PopupSearch& found = *reinterpret_cast<PopupSearch*>(search);
     CRect rect;
-    if (GetWindow(window, GW_OWNER) == found.owner && IsWindowVisible(window) && GetWindowRect(window, &rect))
+    if (IsPopupOf(window, found.owner) && IsWindowVisible(window) && GetWindowRect(window, &rect))
         found.area.UnionRect(&found.area, &rect);
     return TRUE;
 }
@@ -78,36 +79,9 @@ BOOL CALLBACK PaintPopup(HWND window, LPARAM owner)
 {
     const HWND frame = reinterpret_cast<HWND>(owner);
     const UINT everything = RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME;
-    if ((window == frame || GetWindow(window, GW_OWNER) == frame) && IsWindowVisible(window))
+    if ((window == frame || IsPopupOf(window, frame)) && IsWindowVisible(window))
         RedrawWindow(window, nullptr, nullptr, everything);
     return TRUE;
-}
-
-struct DialogSearch
-{
-    HWND frame;
-    std::wstring title;
-    HWND found;
-};
-
-// An enumeration ends with FALSE.
-BOOL CALLBACK TakeDialog(HWND window, LPARAM parameter)
-{
-    DialogSearch& search = *reinterpret_cast<DialogSearch*>(parameter);
-    CString title;
-    CWnd::FromHandle(window)->GetWindowText(title);
-    const bool isDialog = GetClassLongPtrW(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
-    if (isDialog && IsWindowVisible(window) && search.title == title.GetString())
-        search.found = window;
-    return search.found == nullptr;
-}
-
-BOOL CALLBACK SearchOwnedDialog(HWND window, LPARAM parameter)
-{
-    DialogSearch& search = *reinterpret_cast<DialogSearch*>(parameter);
-    if (GetWindow(window, GW_OWNER) == search.frame && TakeDialog(window, parameter))
-        EnumChildWindows(window, &TakeDialog, parameter);
-    return search.found == nullptr;
 }
 
 class ScreenDc
@@ -181,10 +155,8 @@ std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path)
 
 std::wstring SaveDialogShot(CWnd& frame, const std::wstring& title, const std::wstring& path)
 {
-    DialogSearch search{frame.m_hWnd, title, nullptr};
-    EnumWindows(&SearchOwnedDialog, reinterpret_cast<LPARAM>(&search));
     CRect area;
-    if (search.found == nullptr || !GetWindowRect(search.found, &area))
+    if (!GetWindowRect(FindDialog(frame.m_hWnd, title), &area))
         return L"没有打开标题为“" + title + L"”的对话框。";
     return SaveArea(frame, area, path);
 }

@@ -12,7 +12,7 @@ namespace arxhost
 // success.
 std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path);
 
-// The same of one dialog alone: the visible one with this title, which the frame owns or which lies in such a dialog.
+// The same of one dialog alone, see FindDialog().
 std::wstring SaveDialogShot(CWnd& frame, const std::wstring& title, const std::wstring& path);
 
 // The smallest rectangle of the screen that holds the window and the visible popups it owns.

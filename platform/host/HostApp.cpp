@@ -19,6 +19,10 @@ const wchar_t registryKey[] = L"ArxHost";
 const int failureCode = 1;
 // A pausing script looks at its clock this often, milliseconds.
 const unsigned scriptPause = 20;
+// A modal dialog has a message loop of its own, without this program's idle time: after so many ticks, in milliseconds,
+// without any, a script goes on inside of it.
+const UINT modalTick = 50;
+const int ticksOfModalLoop = 3;
 
 std::vector<std::wstring> ProgramArguments()
 {
@@ -49,6 +53,7 @@ BOOL HostApp::InitInstance()
 BOOL HostApp::OnIdle(LONG count)
 {
     const BOOL more = CWinApp::OnIdle(count);
+    m_ticksWithoutIdle = 0;
     if (m_frame == nullptr || m_closing || !(m_frame->IsUnattended() || !m_frame->Scripts().IsEmpty()))
         return more;
     RunScripts();
@@ -80,6 +85,7 @@ bool HostApp::Start(const HostArguments& arguments)
     if (!arguments.script.empty() && !m_frame->HasFailed())
         Attempt([&] { m_frame->StartScript(arguments.script); });
     m_frame->Scripts().Add(L"/c", arguments.command);
+    SetTimer(nullptr, 0, modalTick, &StepInModalLoop);
     return true;
 }
 
@@ -108,6 +114,16 @@ void HostApp::RunScripts()
         m_exitCode = m_frame->HasFailed() ? failureCode : 0;
         m_frame->PostMessage(WM_CLOSE);
     }
+}
+
+void CALLBACK HostApp::StepInModalLoop(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
+{
+    HostApp& app = *static_cast<HostApp*>(AfxGetApp());
+    if (app.m_closing || ++app.m_ticksWithoutIdle < ticksOfModalLoop)
+        return;
+    ScriptRunner& scripts = app.m_frame->Scripts();
+    if (!scripts.IsEmpty() && scripts.Waiting() == 0)
+        app.m_frame->StepScript();
 }
 
 } // namespace arxhost

@@ -25,10 +25,12 @@ private:
     bool Start(const HostArguments& arguments);
     void Attempt(const std::function<void()>& step);
     void RunScripts();
+    static void CALLBACK StepInModalLoop(HWND window, UINT message, UINT_PTR timer, DWORD time);
 
     MainFrame* m_frame = nullptr; // deletes itself with its window
     int m_exitCode = 0;
     bool m_closing = false;
+    int m_ticksWithoutIdle = 0;
 };
 
 } // namespace arxhost

@@ -1,4 +1,5 @@
 ﻿// PALETTE PRESS SELECTROW OPENROW SELECTNODE: commands on the palette, so that a script can do what a user does there.
+#include "host/DialogSearch.h"
 #include "host/HostCommands.h"
 #include "host/MainFrame.h"
 #include "host/PaletteDriver.h"
@@ -10,7 +11,7 @@ namespace
 
 const wchar_t paletteUsage[] = L"PALETTE（面板） DOCK LEFT|RIGHT|TOP|BOTTOM [尺寸] | FLOAT x y 宽 高 | SIZE 宽 [高] | "
                                L"SHOW | HIDE | ROLLUP | ROLLDOWN：布置面板";
-const wchar_t pressUsage[] = L"PRESS（按下） 编号：按下面板中的控件";
+const wchar_t pressUsage[] = L"PRESS（按下） 编号 [对话框标题]：按下面板或对话框中的控件";
 const wchar_t rowUsage[] = L"SELECTROW（选行） 行号 [ADD]：选择面板列表中的一行";
 const wchar_t openRowUsage[] = L"OPENROW（双击行） 行号：双击面板列表中的一行";
 const wchar_t nodeUsage[] = L"SELECTNODE（选节点） 文字：选择面板树中的一项";
@@ -109,9 +110,18 @@ void Palette(MainFrame& frame, const Words& words)
     set.SaveLayout();
 }
 
-void Press(MainFrame& /*frame*/, const Words& words)
+HWND NeedDialog(MainFrame& frame, const std::wstring& title)
 {
-    Fail(PressControl(NeedPaletteSet().m_hWnd, NeedNumber(NeedWord(words, 0, pressUsage))));
+    const HWND dialog = FindDialog(frame.m_hWnd, title);
+    if (dialog == NULL)
+        throw CommandFailure{L"没有打开标题为“" + title + L"”的对话框。"};
+    return dialog;
+}
+
+void Press(MainFrame& frame, const Words& words)
+{
+    const int id = NeedNumber(NeedWord(words, 0, pressUsage));
+    Fail(PressControl(words.size() > 1 ? NeedDialog(frame, words[1]) : NeedPaletteSet().m_hWnd, id));
 }
 
 void SelectRow(MainFrame& /*frame*/, const Words& words)

@@ -103,7 +103,7 @@ std::wstring PressControl(HWND root, int id)
 {
     const HWND control = FindControl(root, id);
     if (control == NULL)
-        return L"面板中没有编号为 " + std::to_wstring(id) + L" 的可见控件。";
+        return L"没有编号为 " + std::to_wstring(id) + L" 的可见控件。";
     if (!::IsWindowEnabled(control))
         return L"编号为 " + std::to_wstring(id) + L" 的控件不可用。";
     // Posted: a press may open a dialog, and the script must not stand inside its loop.

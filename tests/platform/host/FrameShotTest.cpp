@@ -1,4 +1,5 @@
 ﻿// Pictures of the frame and of one dialog.
+#include "host/DialogSearch.h"
 #include "host/FrameShot.h"
 
 #include "DialogTemplate.h"
@@ -89,4 +90,17 @@ TEST_F(FrameShot, FrameIsTakenWithTheDialogsThatReachOverIt)
     both.UnionRect(ScreenRectOf(Frame()), ScreenRectOf(m_outer));
     EXPECT_EQ(both.Size(), PictureSize());
     EXPECT_LT(ScreenRectOf(Frame()).Width(), PictureSize().cx);
+}
+
+TEST_F(FrameShot, DialogOfADialogBelongsToTheFrame)
+{
+    CDialog nested;
+    DialogTemplate form(L"第二层", 60, 30, WS_POPUP | WS_CAPTION | DS_SETFONT);
+    nested.CreateIndirect(form.Get(), &m_outer);
+    nested.ShowWindow(SW_SHOW);
+    EXPECT_EQ(nested.m_hWnd, arxhost::FindDialog(Frame().m_hWnd, L"第二层"));
+    EXPECT_TRUE(arxhost::IsPopupOf(nested.m_hWnd, Frame().m_hWnd));
+    EXPECT_FALSE(arxhost::IsPopupOf(Frame().m_hWnd, Frame().m_hWnd));
+    EXPECT_FALSE(arxhost::IsPopupOf(m_inner.m_hWnd, m_outer.m_hWnd));
+    nested.DestroyWindow();
 }
