@@ -4,6 +4,7 @@
 #include "button/ComboButtonItem.h"
 #include "edit/InputDialog.h"
 #include "edit/SuperEdit.h"
+#include "list/ZNListCtrl.h"
 #include "list/ZNSortListCtrl.h"
 #include "msg/KTMsgWnd.h"
 #include "tree/AddedIconTreeCtrl.h"

@@ -346,7 +346,11 @@ void CSuperEdit::OnSetFocus(CWnd* oldWindow)
 
 void CSuperEdit::OnKillFocus(CWnd* newWindow)
 {
+    const HWND window = m_hWnd;
     CEdit::OnKillFocus(newWindow);
+    // A parent that edits in place destroys the edit, and its object with it, when it hears of the lost focus.
+    if (CWnd::FromHandlePermanent(window) != this)
+        return;
     if (m_valueCheck && !m_disableValidation && !m_valid)
         SetWindowValue(m_default);
 }

@@ -226,6 +226,11 @@ int CALLBACK CZNSortListCtrl::MyCompareProc(LPARAM lParam1, LPARAM lParam2, LPAR
     return CompareSortTexts(info->mode, first, second);
 }
 
+void CZNSortListCtrl::MoveHighlight(int rows)
+{
+    m_nHighlightItem += rows;
+}
+
 BOOL CZNSortListCtrl::OnColumnclick(NMHDR* notification, LRESULT* result)
 {
     *result = 0;

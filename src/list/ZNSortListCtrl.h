@@ -73,6 +73,9 @@ public:
     static int CALLBACK MyCompareProc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
 protected:
+    // The highlighted row is another one from now on; nothing is redrawn.
+    void MoveHighlight(int rows);
+
     DECLARE_MESSAGE_MAP()
 
     afx_msg BOOL OnColumnclick(NMHDR* notification, LRESULT* result);
