@@ -5,6 +5,7 @@
 
 #include "msg/MsgViewWnd.h"
 #include "msg/ZNMsgManager.h"
+#include "tip/FollowMouseTipWnd.h"
 
 namespace
 {
@@ -29,6 +30,8 @@ AcRx::AppRetCode CZNKTControlsApp::On_kUnloadAppMsg(void* pkt)
     Tevrin::Trace(L"%s-%d", kUnloadHandler, kUnloadLine);
     const AcRx::AppRetCode result = AcRxArxApp::On_kUnloadAppMsg(pkt);
 
+    // Its window and its mouse hook must not outlive the code that they call.
+    CFollowMouseTipWnd::Destroy();
     // The palette's viewer reads the store, and both call into the companion: this order.
     CMsgViewWnd::DestroyInstance();
     CZNMsgManager::DestroyInstance();

@@ -1,0 +1,39 @@
+#include "tip/ButtonTipDrawing.h"
+
+namespace
+{
+
+const COLORREF kFrame = RGB(138, 138, 138);
+const int kMargin = 3;
+
+CSize MeasureText(CDC& dc, const CString& text, const CRect& client)
+{
+    CRect rect(client);
+    rect.DeflateRect(kMargin, kMargin);
+    dc.DrawText(text, text.GetLength(), &rect, DT_CALCRECT | DT_WORDBREAK);
+    return rect.Size();
+}
+
+} // namespace
+
+CRect ButtonTipTextRect(const CRect& client, CSize text)
+{
+    const CPoint corner(client.left + (client.Width() - text.cx) / 2, client.top + (client.Height() - text.cy) / 2);
+    return CRect(corner, text);
+}
+
+void DrawButtonTip(CDC& dc, const CRect& client, const ButtonTipLook& look)
+{
+    const COLORREF backColor = dc.GetBkColor();
+    dc.FillSolidRect(&client, look.background);
+    dc.Draw3dRect(&client, kFrame, kFrame);
+    CFont* const font = dc.SelectObject(look.font);
+    const int mode = dc.SetBkMode(TRANSPARENT);
+    const COLORREF textColor = dc.SetTextColor(look.textColor);
+    CRect text = ButtonTipTextRect(client, MeasureText(dc, look.text, client));
+    dc.DrawText(look.text, look.text.GetLength(), &text, DT_WORDBREAK);
+    dc.SetTextColor(textColor);
+    dc.SetBkMode(mode);
+    dc.SelectObject(font);
+    dc.SetBkColor(backColor);
+}

@@ -1,0 +1,79 @@
+// The mouse-following tip under a real mouse.
+#include "FollowTipFixture.h"
+
+namespace
+{
+
+const CPoint kInside(200, 450); // of the owner
+const CPoint kFurther(330, 520);
+const CPoint kElsewhere(750, 350); // in the other window
+
+class FollowTipInput : public FollowTipFixture
+{
+protected:
+    FollowTipInput() : m_other(CRect(700, 300, 800, 400))
+    {
+        m_owner.SetForegroundWindow();
+        MoveUntil(kInside, [] { return Pointer() == kInside; });
+    }
+
+    bool IsBesidePointer() const { return IsVisible() && ScreenRect(Tip()).TopLeft() == PlaceByPointer(); }
+
+    OwnerWindow m_other;
+};
+
+} // namespace
+
+TEST_F(FollowTipInput, FollowsTheMouseOverTheWatchedWindow)
+{
+    CFollowMouseTipWnd::SetWatchWnd(&m_owner);
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
+    for (const CPoint& point : {kFurther, kInside})
+        EXPECT_TRUE(MoveUntil(point, [this, point] { return Pointer() == point && IsBesidePointer(); }));
+}
+
+TEST_F(FollowTipInput, HidesOverAnotherWindowAndReturns)
+{
+    CFollowMouseTipWnd::SetWatchWnd(&m_owner);
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
+    EXPECT_TRUE(MoveUntil(kElsewhere, [this] { return !IsVisible(); }));
+    EXPECT_TRUE(MoveUntil(kInside, [this] { return IsBesidePointer(); }));
+}
+
+TEST_F(FollowTipInput, FollowsEverywhereWithoutAWatchedWindow)
+{
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
+    EXPECT_TRUE(MoveUntil(kElsewhere, [this] { return Pointer() == kElsewhere && IsBesidePointer(); }));
+}
+
+TEST_F(FollowTipInput, StaysHiddenAfterHide)
+{
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
+    CFollowMouseTipWnd::Hide();
+    EXPECT_TRUE(MoveUntil(kFurther, [] { return Pointer() == kFurther; }));
+    EXPECT_FALSE(IsVisible());
+}
+
+TEST_F(FollowTipInput, AMoveAfterTheEndHarmsNobody)
+{
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
+    CFollowMouseTipWnd::Destroy();
+    EXPECT_TRUE(MoveUntil(kFurther, [] { return Pointer() == kFurther; }));
+    EXPECT_EQ(NULL, Tip());
+}
+
+TEST_F(FollowTipInput, OtherHooksOfTheThreadStillSeeTheMouse)
+{
+    static int seen;
+    seen = 0;
+    const HHOOK hook = ::SetWindowsHookExW(
+        WH_MOUSE,
+        [](int code, WPARAM wParam, LPARAM lParam) {
+            ++seen;
+            return ::CallNextHookEx(NULL, code, wParam, lParam);
+        },
+        NULL, ::GetCurrentThreadId());
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL); // its hook comes first
+    EXPECT_TRUE(MoveUntil(kFurther, [] { return seen > 0; }));
+    ::UnhookWindowsHookEx(hook);
+}

@@ -1,0 +1,124 @@
+// A window of an owner, and what tests of tips and display controls need to look at windows.
+#pragma once
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include "DibCanvas.h"
+#include "Wait.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class OwnerWindow : public CWnd
+{
+public:
+    explicit OwnerWindow(const CRect& place = CRect(100, 300, 500, 600))
+    {
+        const CString name = AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW), ::GetSysColorBrush(COLOR_BTNFACE));
+        CreateEx(WS_EX_TOOLWINDOW, name, L"owner", WS_POPUP | WS_VISIBLE, place, NULL, 0);
+    }
+
+    ~OwnerWindow() override { DestroyWindow(); }
+
+    // Called for every notification that a child did not handle.
+    std::function<void(NMHDR&)> onNotify;
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        const BOOL handled = CWnd::OnNotify(wParam, lParam, result);
+        if (onNotify)
+            onNotify(*reinterpret_cast<NMHDR*>(lParam));
+        return handled;
+    }
+};
+
+inline CRect ScreenRect(HWND window)
+{
+    CRect rect(0, 0, 0, 0);
+    ::GetWindowRect(window, &rect);
+    return rect;
+}
+
+// What a window shows, taken off the screen.
+inline std::unique_ptr<DibCanvas> Picture(HWND window)
+{
+    CRect client(0, 0, 0, 0);
+    ::GetClientRect(window, &client);
+    std::unique_ptr<DibCanvas> canvas(new DibCanvas(client.Width(), client.Height(), RGB(1, 2, 3)));
+    ::UpdateWindow(window);
+    const HDC dc = ::GetDC(window);
+    ::BitBlt(canvas->Dc(), 0, 0, client.Width(), client.Height(), dc, 0, 0, SRCCOPY);
+    ::ReleaseDC(window, dc);
+    return canvas;
+}
+
+// The index of the next user object (window, hook, menu) in the table of the process: it grows by at least one for each
+// object that is left behind, and varies a little with the order in which others are given back.
+inline int NextUserObject()
+{
+    const HHOOK probe = ::SetWindowsHookExW(
+        WH_KEYBOARD,
+        [](int code, WPARAM wParam, LPARAM lParam) { return ::CallNextHookEx(NULL, code, wParam, lParam); }, NULL,
+        ::GetCurrentThreadId());
+    ::UnhookWindowsHookEx(probe);
+    return LOWORD(reinterpret_cast<UINT_PTR>(probe));
+}
+
+// Dispatches as the framework does, so that windows see messages before they are dispatched.
+template<class CONDITION>
+bool PumpUntil(CONDITION condition, DWORD timeout = 5000)
+{
+    return WaitFor(
+        [&condition] {
+            MSG message;
+            while (::PeekMessageW(&message, NULL, 0, 0, PM_NOREMOVE))
+                AfxGetThread()->PumpMessage();
+            return condition();
+        },
+        timeout);
+}
+
+// A real mouse.
+inline void MouseEvent(DWORD flags)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    ::SendInput(1, &input, sizeof(input));
+}
+
+// Under Wine a move that the display reports late may take the cursor back: it is moved until the condition holds.
+template<class CONDITION>
+bool MoveUntil(CPoint point, CONDITION condition)
+{
+    const int attempts = 5;
+    const DWORD patience = 1000;
+    for (int i = 0; i < attempts; ++i)
+    {
+        // A move to the same place is none.
+        ::SetCursorPos(point.x + 1, point.y);
+        ::SetCursorPos(point.x, point.y);
+        if (PumpUntil(condition, patience))
+            return true;
+    }
+    return false;
+}
+
+template<class CONDITION>
+bool ClickUntil(CPoint point, CONDITION condition)
+{
+    const int attempts = 5;
+    for (int i = 0; i < attempts; ++i)
+    {
+        ::SetCursorPos(point.x, point.y);
+        MouseEvent(MOUSEEVENTF_LEFTDOWN);
+        MouseEvent(MOUSEEVENTF_LEFTUP);
+        if (PumpUntil(condition, 2 * ::GetDoubleClickTime()))
+            return true;
+    }
+    return false;
+}
