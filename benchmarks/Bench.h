@@ -60,5 +60,7 @@ void MeasureMessageViewer(Report& report);
 void MeasureSortList(Report& report);
 void MeasureSuperEdit(Report& report);
 void MeasureResize(Report& report);
+void MeasureFollowTip(Report& report);
+void MeasureLabel(Report& report);
 
 } // namespace bench

@@ -46,6 +46,8 @@ const Subject kSubjects[] = {
     {"sort-list", bench::MeasureSortList},
     {"super-edit", bench::MeasureSuperEdit},
     {"resize", bench::MeasureResize},
+    {"follow-tip", bench::MeasureFollowTip},
+    {"label", bench::MeasureLabel},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)

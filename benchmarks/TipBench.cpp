@@ -88,15 +88,13 @@ void MeasureFollowTip(Report& report)
                            takeAway(tip);
                        },
                        [&] { tip.OnMouseMove(watched.m_hWnd); }, nullptr};
-    const Work bareMove = {[&] {
-                               step = (step + 1) % 100;
-                               takeAway(bare);
-                           },
-                           [&] {
-                               bare.SetWindowPos(NULL, 300 + step, 200 + step, 0, 0,
-                                                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-                           },
-                           nullptr};
+    const Work bareMove = {
+        [&] {
+            step = (step + 1) % 100;
+            takeAway(bare);
+        },
+        [&] { bare.SetWindowPos(NULL, 300 + step, 200 + step, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE); },
+        nullptr};
     const Pair pair = MedianSeconds(kRuns, move, bareMove);
     CFollowMouseTipWnd::Destroy();
     report.Add({"follow tip: a mouse move with the tip visible", "us", pair.ours * kMicroseconds,

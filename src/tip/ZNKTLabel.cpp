@@ -36,12 +36,12 @@ CZNKTLabel::~CZNKTLabel() {}
 void CZNKTLabel::OnPaint()
 {
     CPaintDC dc(this);
+    const HWND parent = ::GetParent(m_hWnd);
+    if (parent != NULL)
+        FillBackground(dc, m_hWnd, parent);
     CString text;
     GetWindowText(text);
     if (text.IsEmpty())
         return;
-    const HWND parent = ::GetParent(m_hWnd);
-    if (parent != NULL)
-        FillBackground(dc, m_hWnd, parent);
     DrawLabel(dc, text, FontOf(parent != NULL ? parent : m_hWnd));
 }

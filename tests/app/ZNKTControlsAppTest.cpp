@@ -4,6 +4,7 @@
 
 #include "GdiCount.h"
 #include "LoadedModule.h"
+#include "TraceCapture.h"
 #include "app/ZNKTControlsApp.h"
 #include "arx/rx/ApiVersion.h"
 #include "msg/HostFrame.h"
@@ -11,13 +12,10 @@
 #include "msg/MsgViewWnd.h"
 #include "msg/ZNMsgManager.h"
 
-#include <ZnQFCBaseU.h>
 #include <rxdlinkr.h>
 #include <commctrl.h>
 #include <psapi.h>
 
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 
@@ -32,39 +30,6 @@ class ModuleEntry : public ::testing::Test
 protected:
     ModuleEntry() { arxhost::Reset(); }
     ~ModuleEntry() override { arxhost::Reset(); }
-};
-
-// Lines that the base library traced while this lived.
-class TraceCapture
-{
-public:
-    TraceCapture()
-    {
-        wchar_t folder[MAX_PATH] = L"";
-        wchar_t file[MAX_PATH] = L"";
-        ::GetTempPathW(MAX_PATH, folder);
-        ::GetTempFileNameW(folder, L"trc", 0, file);
-        m_path = file;
-        Tevrin::SetTraceFile(file);
-    }
-
-    ~TraceCapture()
-    {
-        Tevrin::SetTraceFile(NULL);
-        ::DeleteFileW(m_path);
-    }
-
-    TraceCapture(const TraceCapture&) = delete;
-    TraceCapture& operator=(const TraceCapture&) = delete;
-
-    std::string Text() const
-    {
-        std::ifstream stream(CStringA(m_path).GetString(), std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
-    }
-
-private:
-    CString m_path;
 };
 
 BOOL CALLBACK CountWindow(HWND, LPARAM count)
