@@ -36,7 +36,10 @@ struct FollowTipHook
         // The tip may end meanwhile and take the record with it.
         const HHOOK hook = s_record == NULL ? NULL : s_record->handle;
         if (code >= 0 && s_record != NULL && (message == WM_MOUSEMOVE || message == WM_NCMOUSEMOVE))
-            s_record->instance->OnMouseMove(reinterpret_cast<const MOUSEHOOKSTRUCT*>(event)->hwnd);
+        {
+            const MOUSEHOOKSTRUCT& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(event);
+            s_record->instance->OnMouseMove(mouse.hwnd, mouse.pt);
+        }
         return ::CallNextHookEx(hook, code, message, event);
     }
 
@@ -193,9 +196,17 @@ void CFollowMouseTipWnd::SetMsg(const wchar_t* text, unsigned long seconds)
 
 void CFollowMouseTipWnd::OnMouseMove(HWND under)
 {
+    CPoint pointer;
+    if (::GetCursorPos(&pointer))
+        OnMouseMove(under, pointer);
+}
+
+void CFollowMouseTipWnd::OnMouseMove(HWND under, CPoint pointer)
+{
+    const bool visible = IsWindowVisible() != FALSE;
     if (s_watch != NULL && under != s_watch)
     {
-        if (IsWindowVisible())
+        if (visible)
         {
             Conceal();
             TraceOutside(under);
@@ -208,13 +219,10 @@ void CFollowMouseTipWnd::OnMouseMove(HWND under)
             Tevrin::Trace(L"In hide mode");
         return;
     }
-    CPoint pointer;
     CRect tip;
     GetWindowRect(&tip);
-    if (!::GetCursorPos(&pointer))
-        return;
     const CPoint place = TipPlace(pointer, tip.Height());
-    PlaceAt(place, IsWindowVisible() ? 0 : SWP_SHOWWINDOW);
+    PlaceAt(place, visible ? 0 : SWP_SHOWWINDOW);
     if (m_debug)
         Tevrin::Trace(L"update wnd pos: %d,%d", place.x, place.y);
 }

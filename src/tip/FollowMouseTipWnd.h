@@ -53,8 +53,9 @@ protected:
     CSize CalWndSize();
     void SetMsg(const wchar_t* text, unsigned long seconds);
 
-    // `under`: the window under the pointer.
+    // `under`: the window under the pointer, which is on the screen at that point, or where it is now.
     void OnMouseMove(HWND under);
+    void OnMouseMove(HWND under, CPoint pointer);
 
     // The clock that the time of the tip is read from, in milliseconds.
     virtual DWORD TickCount() const;
