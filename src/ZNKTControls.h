@@ -1,6 +1,7 @@
 // Everything that ZNKTControls.arx offers.
 #pragma once
 
+#include "button/ComboButton.h"
 #include "button/ComboButtonItem.h"
 #include "edit/InputDialog.h"
 #include "edit/SuperEdit.h"
