@@ -60,13 +60,15 @@ public:
     using CComboButton::DrawItemContent;
 
     int menusInitialised = 0;
-    int commands = 0;
+    int pressesSeen = 0;
+    int charactersSeen = 0; // in a menu
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         menusInitialised += message == WM_INITMENUPOPUP;
-        commands += message == WM_COMMAND;
+        pressesSeen += message == WM_LBUTTONDOWN;
+        charactersSeen += message == WM_MENUCHAR;
         return CComboButton::WindowProc(message, wParam, lParam);
     }
 };

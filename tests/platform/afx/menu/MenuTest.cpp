@@ -219,3 +219,109 @@ TEST(Menu, TheItemsOfASubmenuGoToItsOwnObject)
     EXPECT_EQ(static_cast<UINT>(ItemWidth), measure.itemWidth);
     outer.RemoveMenu(0, MF_BYPOSITION); // inner destroys it
 }
+
+// A child window may own a menu as well, a control for one.
+
+namespace
+{
+class MenuButton : public CButton
+{
+public:
+    explicit MenuButton(CWnd& parent) { Create(L"Menu", WS_CHILD | WS_VISIBLE, CRect(10, 10, 80, 40), &parent, 1); }
+    ~MenuButton() override { DestroyWindow(); }
+
+    UINT m_typed = 0;
+    CMenu* m_typedIn = nullptr;
+    std::vector<UINT> m_commands;
+    UINT m_typeWhenOpen = 0;
+
+protected:
+    afx_msg void OnEnterIdle(UINT, CWnd* menuWindow)
+    {
+        if (m_typeWhenOpen == 0)
+        {
+            ::EndMenu();
+            return;
+        }
+        ::PostMessage(menuWindow->m_hWnd, WM_CHAR, m_typeWhenOpen, 0);
+        m_typeWhenOpen = 0;
+    }
+    afx_msg LRESULT OnMenuChar(UINT character, UINT, CMenu* menu)
+    {
+        m_typed = character;
+        m_typedIn = menu;
+        return MAKELRESULT(1, MNC_EXECUTE);
+    }
+    afx_msg void OnItem(UINT id) { m_commands.push_back(id); }
+
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(MenuButton, CButton)
+    ON_WM_ENTERIDLE()
+    ON_WM_MENUCHAR()
+    ON_COMMAND_RANGE(ID_ONE, ID_TWO, &MenuButton::OnItem)
+END_MESSAGE_MAP()
+} // namespace
+
+TEST(Menu, AButtonThatOwnsAMenuNeedsNothingForItsDrawing)
+{
+    MenuOwner owner;
+    MenuButton button(owner);
+    OwnerDrawnMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_OWNERDRAW, ID_ONE, L"1");
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_OWNERDRAW, ID_TWO, L"2");
+    menu.TrackPopupMenu(0, 100, 100, &button);
+    EXPECT_EQ((std::vector<UINT>{ID_ONE, ID_TWO}), menu.m_measured);
+    EXPECT_NE(menu.m_drawn.end(), std::find(menu.m_drawn.begin(), menu.m_drawn.end(), ID_ONE));
+    EXPECT_NE(menu.m_drawn.end(), std::find(menu.m_drawn.begin(), menu.m_drawn.end(), ID_TWO));
+    EXPECT_EQ(menu.m_drawn.end(), std::find(menu.m_drawn.begin(), menu.m_drawn.end(), 0u));
+}
+
+TEST(Menu, TheOwnerIsAskedForUnknownCharactersWithTheMenusObject)
+{
+    MenuOwner owner;
+    MenuButton button(owner);
+    OwnerDrawnMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_OWNERDRAW, ID_ONE, L"1");
+    menu.AppendMenu(MF_OWNERDRAW, ID_TWO, L"2");
+    button.m_typeWhenOpen = L'x';
+    menu.TrackPopupMenu(0, 100, 100, &button);
+    EXPECT_EQ(UINT(L'x'), button.m_typed);
+    EXPECT_EQ(&menu, button.m_typedIn);
+    // The answer named the second item, whose command comes when the menu is closed.
+    EXPECT_TRUE(button.m_commands.empty());
+    MSG message;
+    while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+        ::DispatchMessage(&message);
+    EXPECT_EQ(std::vector<UINT>{ID_TWO}, button.m_commands);
+}
+
+TEST(Menu, ItemsOfAMenuWithoutAnObjectAreLeftToTheSystem)
+{
+    MenuOwner owner;
+    const HMENU menu = ::CreatePopupMenu();
+    ::AppendMenu(menu, MF_OWNERDRAW, ID_ONE, nullptr);
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = ID_ONE;
+    measure.itemWidth = 5;
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_MENU;
+    draw.itemID = ID_ONE;
+    draw.hwndItem = reinterpret_cast<HWND>(menu);
+    for (const HMENU tracked : {menu, HMENU(nullptr)})
+    {
+        AfxGetThreadState()->m_hTrackingMenu = tracked;
+        AfxGetThreadState()->m_hTrackingWindow = owner.m_hWnd;
+        EXPECT_EQ(0, owner.SendMessage(WM_MEASUREITEM, 0, LPARAM(&measure)));
+        EXPECT_EQ(0, owner.SendMessage(WM_DRAWITEM, 0, LPARAM(&draw)));
+    }
+    AfxGetThreadState()->m_hTrackingMenu = nullptr;
+    AfxGetThreadState()->m_hTrackingWindow = nullptr;
+    EXPECT_EQ(5u, measure.itemWidth);
+    ::DestroyMenu(menu);
+}
