@@ -44,6 +44,7 @@ const Subject kSubjects[] = {
     {"message-store", bench::MeasureMessageStore},
     {"message-viewer", bench::MeasureMessageViewer},
     {"sort-list", bench::MeasureSortList},
+    {"editable-list", bench::MeasureEditableList},
     {"super-edit", bench::MeasureSuperEdit},
     {"resize", bench::MeasureResize},
     {"follow-tip", bench::MeasureFollowTip},

@@ -52,13 +52,11 @@ CSuperEdit::CSuperEdit()
       m_syntaxValid(0), m_lengthValid(0), m_valueValid(1), m_customAnswered(0), m_status(VVB_EMPTY), m_anyChar(0),
       m_minLength(0), m_maxLength(kLengthLimit), m_validSet(VVE_ALL), m_customValidation(0), m_disableValidation(0),
       m_lengthCheck(0), m_emptyValid(1), m_allCharEntry(0), m_rangeCheck(1), m_valueCheck(0), m_default(0),
-      m_minimum(0), m_maximum(0), m_precision(kDefaultPrecision), m_tipEnabled(0), m_tipTextSet(0)
+      m_minimum(0), m_maximum(0), m_precision(kDefaultPrecision), m_tipEnabled(0), m_tipTextSet(0), m_tipMade(0),
+      m_toolDue(0)
 {
     m_customErrorIsValid[0] = 0;
     m_customErrorIsValid[1] = 0;
-    m_toolTip.Create(this, 0);
-    m_toolTip.Activate(FALSE);
-    m_toolTip.SetMaxTipWidth(kMaxTipWidth);
     SetValidCharSet(VVE_ALL, NULL);
 }
 
@@ -125,9 +123,20 @@ void CSuperEdit::SetTipText(const wchar_t* text)
     m_tipText = text;
     m_tipTextSet = text != NULL;
     if (text == NULL)
+    {
         RemoveTip();
-    else if (m_toolTip.GetToolCount() > 0)
+        return;
+    }
+    MakeTip();
+    if (m_toolTip.GetToolCount() > 0)
         m_toolTip.UpdateTipText(m_tipText, this, kTipTool);
+}
+
+void CSuperEdit::SetEableTip(int enable)
+{
+    m_tipEnabled = enable;
+    if (enable)
+        MakeTip();
 }
 
 int CSuperEdit::IsValid() const
@@ -257,7 +266,7 @@ void CSuperEdit::SelectAll()
 
 BOOL CSuperEdit::PreTranslateMessage(MSG* message)
 {
-    if (m_tipEnabled)
+    if (m_tipEnabled && m_toolTip.GetSafeHwnd() != NULL)
         m_toolTip.RelayEvent(message);
     return CEdit::PreTranslateMessage(message);
 }
@@ -338,10 +347,10 @@ void CSuperEdit::OnSetFocus(CWnd* oldWindow)
     CEdit::OnSetFocus(oldWindow);
     if ((!m_tipTextSet || m_tipText.IsEmpty()) && m_tipEnabled && m_valueCheck)
         ShowLimitsInTip();
-    if (m_toolTip.GetToolCount() == 0)
-        AddTip();
-    m_toolTip.Activate(TRUE);
-    m_toolTip.Update();
+    if (m_tipMade)
+        ShowTip();
+    else
+        m_toolDue = 1;
 }
 
 void CSuperEdit::OnKillFocus(CWnd* newWindow)
@@ -466,6 +475,28 @@ void CSuperEdit::ShowLimitsInTip()
     RemoveTip();
 }
 
+// The window of the tip takes longer to make than that of the edit, and most edits never show a tip: it is made when
+// the first one is asked for, and gets what it missed.
+void CSuperEdit::MakeTip()
+{
+    if (m_tipMade)
+        return;
+    m_tipMade = 1;
+    m_toolTip.Create(this, 0);
+    m_toolTip.Activate(FALSE);
+    m_toolTip.SetMaxTipWidth(kMaxTipWidth);
+    if (m_toolDue)
+        ShowTip();
+}
+
+void CSuperEdit::ShowTip()
+{
+    if (m_toolTip.GetToolCount() == 0)
+        AddTip();
+    m_toolTip.Activate(TRUE);
+    m_toolTip.Update();
+}
+
 void CSuperEdit::AddTip()
 {
     CRect client;
@@ -476,6 +507,7 @@ void CSuperEdit::AddTip()
 
 void CSuperEdit::RemoveTip()
 {
-    if (m_toolTip.GetToolCount() > 0)
+    m_toolDue = 0;
+    if (m_tipMade && m_toolTip.GetToolCount() > 0)
         m_toolTip.DelTool(this, kTipTool);
 }

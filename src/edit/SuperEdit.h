@@ -196,6 +196,8 @@ private:
 
     // Tip.
     void ShowLimitsInTip();
+    void MakeTip();
+    void ShowTip();
     void AddTip();
     void RemoveTip();
 
@@ -231,5 +233,7 @@ private:
     CString m_tipText;
     int m_tipEnabled;
     int m_tipTextSet; // the owner gave a text
+    int m_tipMade;
+    int m_toolDue; // the focus came before the tip was made
     CToolTipCtrl m_toolTip;
 };

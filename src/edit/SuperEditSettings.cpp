@@ -121,11 +121,6 @@ CString CSuperEdit::GetTipText() const
     return m_tipText;
 }
 
-void CSuperEdit::SetEableTip(int enable)
-{
-    m_tipEnabled = enable;
-}
-
 int CSuperEdit::GetEableTip() const
 {
     return m_tipEnabled;

@@ -56,11 +56,20 @@ class SuperEditTip : public EditFixture
 protected:
     SuperEditTip()
     {
-        // Each edit brings one tip window, and there is one edit.
-        std::vector<HWND> tips;
-        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+        EXPECT_TRUE(Tips().empty());
+        // An edit that is asked for a tip brings one tip window, and there is one edit.
+        m_edit.SetEableTip(1);
+        m_edit.SetEableTip(0);
+        const std::vector<HWND> tips = Tips();
         EXPECT_EQ(1u, tips.size());
         m_tip = tips.empty() ? NULL : tips.front();
+    }
+
+    static std::vector<HWND> Tips()
+    {
+        std::vector<HWND> tips;
+        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+        return tips;
     }
 
     int Tools() const { return static_cast<int>(::SendMessageW(m_tip, TTM_GETTOOLCOUNT, 0, 0)); }
@@ -105,6 +114,31 @@ TEST_F(SuperEditTip, FocusAddsOneToolForTheWholeClientArea)
     Leave();
     Enter();
     EXPECT_EQ(1, Tools());
+}
+
+TEST(SuperEditTipInPlace, TipThatIsAskedForWhileTheEditHasTheFocusIsThereAtOnce)
+{
+    CWnd parent;
+    ASSERT_TRUE(
+        parent.CreateEx(0, AfxRegisterWndClass(0), L"parent", WS_POPUP | WS_VISIBLE, CRect(0, 0, 200, 100), NULL, 0));
+    for (const bool byText : {false, true})
+    {
+        CSuperEdit edit;
+        ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &parent, 1));
+        edit.SetFocus();
+        std::vector<HWND> tips;
+        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+        EXPECT_TRUE(tips.empty()); // nobody asked for one
+        if (byText)
+            edit.SetTipText(L"tip");
+        else
+            edit.SetEableTip(1);
+        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+        ASSERT_EQ(1u, tips.size());
+        EXPECT_EQ(1, ::SendMessageW(tips[0], TTM_GETTOOLCOUNT, 0, 0));
+        edit.DestroyWindow();
+    }
+    parent.DestroyWindow();
 }
 
 TEST_F(SuperEditTip, BreaksLinesAt400Pixels)
