@@ -41,14 +41,10 @@ struct Subject
 };
 
 const Subject kSubjects[] = {
-    {"message-store", bench::MeasureMessageStore},
-    {"message-viewer", bench::MeasureMessageViewer},
-    {"sort-list", bench::MeasureSortList},
-    {"editable-list", bench::MeasureEditableList},
-    {"super-edit", bench::MeasureSuperEdit},
-    {"resize", bench::MeasureResize},
-    {"follow-tip", bench::MeasureFollowTip},
-    {"label", bench::MeasureLabel},
+    {"message-store", bench::MeasureMessageStore}, {"message-viewer", bench::MeasureMessageViewer},
+    {"sort-list", bench::MeasureSortList},         {"editable-list", bench::MeasureEditableList},
+    {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
+    {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)
