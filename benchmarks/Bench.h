@@ -63,5 +63,6 @@ void MeasureSuperEdit(Report& report);
 void MeasureResize(Report& report);
 void MeasureFollowTip(Report& report);
 void MeasureLabel(Report& report);
+void MeasureComboMenu(Report& report);
 
 } // namespace bench

@@ -45,6 +45,14 @@ const Subject kSubjects[] = {
     {"sort-list", bench::MeasureSortList},         {"editable-list", bench::MeasureEditableList},
     {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
     {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
+    {"message-store", bench::MeasureMessageStore},
+    {"message-viewer", bench::MeasureMessageViewer},
+    {"sort-list", bench::MeasureSortList},
+    {"super-edit", bench::MeasureSuperEdit},
+    {"resize", bench::MeasureResize},
+    {"follow-tip", bench::MeasureFollowTip},
+    {"label", bench::MeasureLabel},
+    {"combo-menu", bench::MeasureComboMenu},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)

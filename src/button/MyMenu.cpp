@@ -107,12 +107,21 @@ void CMyMenu::Record(CWnd* pOwner, MyMenuItemData& data, const wchar_t* text)
     data.strText = text;
     data.chMnemonic = MnemonicOf(text);
     data.sizeImage = MenuImageSize(FindItemImage(data.hIcon, data.hBitmap).size);
-
-    CClientDC dc(pOwner);
-    const CSavedDC saved(dc);
-    dc.SelectObject(&m_font);
-    data.sizeText = MeasureItemText(dc, data.strText);
+    data.sizeText = MeasureItemText(MeasuringContext(pOwner), data.strText);
     m_mapItemData.SetAt(data.nID, data);
+}
+
+// Compatible with the owner's, made once: to get the owner's own and put the font into it costs more than all the rest
+// of an entry.
+CDC& CMyMenu::MeasuringContext(CWnd* pOwner)
+{
+    if (m_measuringContext.GetSafeHdc() == NULL)
+    {
+        CClientDC owner(pOwner);
+        m_measuringContext.CreateCompatibleDC(&owner);
+        m_measuringContext.SelectObject(&m_font);
+    }
+    return m_measuringContext;
 }
 
 void CMyMenu::MeasureItem(LPMEASUREITEMSTRUCT measureItem)

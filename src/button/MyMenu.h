@@ -55,8 +55,10 @@ private:
     CMyMenu& operator=(const CMyMenu&);
 
     void Record(CWnd* pOwner, MyMenuItemData& data, const wchar_t* text);
+    CDC& MeasuringContext(CWnd* pOwner);
     bool FindMnemonic(UINT key, UINT& id) const;
 
     CMap<UINT, UINT, MyMenuItemData, const MyMenuItemData&> m_mapItemData;
     CFont m_font;
+    CDC m_measuringContext;
 };
