@@ -1,5 +1,6 @@
 ﻿#include "GalleryPages.h"
 
+#include "pages/EditableListPage.h"
 #include "pages/InputDialogPage.h"
 #include "pages/SortListPage.h"
 #include "pages/SuperEditPage.h"
@@ -21,6 +22,7 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CSuperEditPage>(L"super-edit", L"输入", L"校验编辑框"),
         Page<CInputDialogPage>(L"input-dialog", L"输入", L"输入对话框"),
         Page<CSortListPage>(L"sort-list", L"列表", L"可排序列表"),
+        Page<CEditableListPage>(L"editable-list", L"列表", L"可编辑列表"),
     };
     return pages;
 }
