@@ -45,13 +45,6 @@ const Subject kSubjects[] = {
     {"sort-list", bench::MeasureSortList},         {"editable-list", bench::MeasureEditableList},
     {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
     {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
-    {"message-store", bench::MeasureMessageStore},
-    {"message-viewer", bench::MeasureMessageViewer},
-    {"sort-list", bench::MeasureSortList},
-    {"super-edit", bench::MeasureSuperEdit},
-    {"resize", bench::MeasureResize},
-    {"follow-tip", bench::MeasureFollowTip},
-    {"label", bench::MeasureLabel},
     {"combo-menu", bench::MeasureComboMenu},
 };
 
