@@ -64,5 +64,6 @@ void MeasureResize(Report& report);
 void MeasureFollowTip(Report& report);
 void MeasureLabel(Report& report);
 void MeasureComboMenu(Report& report);
+void MeasureTrees(Report& report);
 
 } // namespace bench

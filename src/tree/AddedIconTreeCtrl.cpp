@@ -141,6 +141,7 @@ void CAddedIconTreeCtrl::PaintItems(CDC& dc)
 {
     const HWND tree = m_hWnd;
     const CFontSelection font(dc.m_hDC, reinterpret_cast<HGDIOBJ>(::SendMessage(tree, WM_GETFONT, 0, 0)));
+    CIconPainter icons(dc);
     dc.SetBkMode(TRANSPARENT);
     HTREEITEM item = GetFirstVisibleItem();
     for (UINT left = GetVisibleCount(); left > 0 && item != NULL; --left)
@@ -148,18 +149,18 @@ void CAddedIconTreeCtrl::PaintItems(CDC& dc)
         const CString text = GetItemText(item);
         if (!::IsWindow(tree))
             return;
-        PaintItem(dc, item, text);
+        PaintItem(dc, icons, item, text);
         item = GetNextVisibleItem(item);
     }
 }
 
-void CAddedIconTreeCtrl::PaintItem(CDC& dc, HTREEITEM item, const CString& text)
+void CAddedIconTreeCtrl::PaintItem(CDC& dc, CIconPainter& icons, HTREEITEM item, const CString& text)
 {
     CRect label;
     if (!GetItemRect(item, &label, TRUE))
         return;
     const bool selected = (GetItemState(item, TVIS_SELECTED) & TVIS_SELECTED) != 0;
-    label.OffsetRect(PaintIcons(dc, item, label.TopLeft()), 0);
+    label.OffsetRect(PaintIcons(icons, item, label.TopLeft()), 0);
     label.right += kRoomAfterText;
     Fill(dc, label, selected ? kSelectedGround : kGround);
     label.OffsetRect(kTextIndent, 0);
@@ -172,25 +173,25 @@ void CAddedIconTreeCtrl::PaintItem(CDC& dc, HTREEITEM item, const CString& text)
 }
 
 // Answers the width of all of them.
-int CAddedIconTreeCtrl::PaintIcons(CDC& dc, HTREEITEM item, CPoint place)
+int CAddedIconTreeCtrl::PaintIcons(CIconPainter& icons, HTREEITEM item, CPoint place)
 {
     CTreeItemImages images;
     if (!m_mapAddedIcons.Lookup(item, images))
         return 0;
     int width = 0;
     for (int entry = 0; entry < images.GetCount(); ++entry)
-        width += PaintIcon(dc, images, entry, CPoint(place.x + width, place.y));
+        width += PaintEntry(icons, images, entry, CPoint(place.x + width, place.y));
     return width;
 }
 
-int CAddedIconTreeCtrl::PaintIcon(CDC& dc, const CTreeItemImages& images, int entry, CPoint place)
+int CAddedIconTreeCtrl::PaintEntry(CIconPainter& icons, const CTreeItemImages& images, int entry, CPoint place)
 {
     const unsigned int source = images.GetSource(entry);
     if (source == CTreeItemImages::IMG_ICONHANDLE)
-        return ::PaintIcon(dc, images.GetIcon(entry), place);
+        return icons.PaintIcon(images.GetIcon(entry), place);
     const CImageList* const list =
         source == CTreeItemImages::IMG_ADDEDLIST ? m_pAddedImageList : GetImageList(TVSIL_NORMAL);
-    return PaintImage(dc, list, images.GetIndex(entry), place);
+    return icons.PaintImage(list == NULL ? NULL : list->GetSafeHandle(), images.GetIndex(entry), place);
 }
 
 // The native control moves the pixels that are there, but not by what this class has drawn.

@@ -22,6 +22,8 @@
 #include "base/ZnktApi.h"
 #include "tree/TreeItemImages.h"
 
+class CIconPainter;
+
 class ZNKT_API CAddedIconTreeCtrl : public CTreeCtrl
 {
     DECLARE_DYNAMIC(CAddedIconTreeCtrl)
@@ -57,9 +59,9 @@ private:
     CAddedIconTreeCtrl& operator=(const CAddedIconTreeCtrl&);
 
     void PaintItems(CDC& dc);
-    void PaintItem(CDC& dc, HTREEITEM item, const CString& text);
-    int PaintIcons(CDC& dc, HTREEITEM item, CPoint place);
-    int PaintIcon(CDC& dc, const CTreeItemImages& images, int entry, CPoint place);
+    void PaintItem(CDC& dc, CIconPainter& icons, HTREEITEM item, const CString& text);
+    int PaintIcons(CIconPainter& icons, HTREEITEM item, CPoint place);
+    int PaintEntry(CIconPainter& icons, const CTreeItemImages& images, int entry, CPoint place);
     void InvalidateAddedIcons();
 
     CImageList* m_pAddedImageList;

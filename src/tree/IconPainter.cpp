@@ -6,7 +6,7 @@ namespace
 const COLORREF kGround = 0xFFFFFF;
 
 // 0 by 0 where the handle is no icon.
-CSize SizeOf(HICON icon)
+CSize SizeOfIcon(HICON icon)
 {
     ICONINFO info = {};
     if (icon == NULL || !::GetIconInfo(icon, &info))
@@ -21,28 +21,81 @@ CSize SizeOf(HICON icon)
     return CSize(bitmap.bmWidth, colored ? bitmap.bmHeight : bitmap.bmHeight / 2);
 }
 
-} // namespace
-
-int PaintIcon(CDC& dc, HICON icon, CPoint place)
+CSize SizeOfImage(HIMAGELIST list, int index)
 {
-    const CSize size = SizeOf(icon);
-    if (size.cx <= 0 || size.cy <= 0)
-        return 0;
-    CBrush ground(kGround);
-    const CRect area(place, size);
-    dc.FillRect(&area, &ground);
-    dc.DrawState(place, size, icon, DST_ICON, static_cast<HBRUSH>(NULL));
-    return size.cx;
+    int width = 0;
+    int height = 0;
+    if (index >= 0 && index < ::ImageList_GetImageCount(list))
+        ::ImageList_GetIconSize(list, &width, &height);
+    return CSize(width, height);
 }
 
-int PaintImage(CDC& dc, const CImageList* images, int index, CPoint place)
+} // namespace
+
+CIconPainter::CIconPainter(CDC& dc) : m_dc(dc)
 {
-    const HIMAGELIST list = images == NULL ? NULL : images->GetSafeHandle();
-    if (list == NULL || index < 0 || index >= ::ImageList_GetImageCount(list))
+    m_memory.CreateCompatibleDC(&dc);
+}
+
+CIconPainter::~CIconPainter()
+{
+    for (std::map<Key, Picture>::iterator it = m_pictures.begin(); it != m_pictures.end(); ++it)
+    {
+        if (it->second.bitmap != NULL)
+            ::DeleteObject(it->second.bitmap);
+    }
+}
+
+int CIconPainter::PaintIcon(HICON icon, CPoint place)
+{
+    return icon == NULL ? 0 : Paint(Key(static_cast<HIMAGELIST>(NULL), reinterpret_cast<ULONG_PTR>(icon)), place);
+}
+
+int CIconPainter::PaintImage(HIMAGELIST list, int index, CPoint place)
+{
+    return list == NULL ? 0 : Paint(Key(list, static_cast<ULONG_PTR>(index)), place);
+}
+
+CIconPainter::Picture CIconPainter::MakePicture(const Key& key)
+{
+    Picture picture = {NULL, key.first == NULL ? SizeOfIcon(reinterpret_cast<HICON>(key.second))
+                                               : SizeOfImage(key.first, static_cast<int>(key.second))};
+    if (picture.size.cx <= 0 || picture.size.cy <= 0)
+        return picture;
+    picture.bitmap = ::CreateCompatibleBitmap(m_dc.m_hDC, picture.size.cx, picture.size.cy);
+    if (picture.bitmap == NULL)
+        return picture;
+    const HGDIOBJ before = ::SelectObject(m_memory.m_hDC, picture.bitmap);
+    DrawInto(key, picture.size);
+    ::SelectObject(m_memory.m_hDC, before);
+    return picture;
+}
+
+// The image of a list looks as the icon that ImageList_GetIcon makes of it (ILD_NORMAL), which need not be made for
+// that.
+void CIconPainter::DrawInto(const Key& key, CSize size)
+{
+    CBrush ground(kGround);
+    const CRect area(CPoint(0, 0), size);
+    m_memory.FillRect(&area, &ground);
+    if (key.first == NULL)
+        m_memory.DrawState(CPoint(0, 0), size, reinterpret_cast<HICON>(key.second), DST_ICON,
+                           static_cast<HBRUSH>(NULL));
+    else
+        ::ImageList_DrawEx(key.first, static_cast<int>(key.second), m_memory.m_hDC, 0, 0, 0, 0, CLR_NONE, CLR_NONE,
+                           ILD_TRANSPARENT);
+}
+
+int CIconPainter::Paint(const Key& key, CPoint place)
+{
+    std::map<Key, Picture>::iterator found = m_pictures.find(key);
+    if (found == m_pictures.end())
+        found = m_pictures.insert(std::make_pair(key, MakePicture(key))).first;
+    const Picture& picture = found->second;
+    if (picture.bitmap == NULL)
         return 0;
-    const HICON icon = ::ImageList_GetIcon(list, index, ILD_NORMAL);
-    const int width = PaintIcon(dc, icon, place);
-    if (icon != NULL)
-        ::DestroyIcon(icon);
-    return width;
+    const HGDIOBJ before = ::SelectObject(m_memory.m_hDC, picture.bitmap);
+    ::BitBlt(m_dc.m_hDC, place.x, place.y, picture.size.cx, picture.size.cy, m_memory.m_hDC, 0, 0, SRCCOPY);
+    ::SelectObject(m_memory.m_hDC, before);
+    return picture.size.cx;
 }

@@ -1,10 +1,44 @@
-// Draws an icon in its own size on a white ground.
+// Draws icons in their own size on a white ground, for the time of one painting.
+//
+// Every icon and image is drawn once into a picture of its own, whose copies then stand wherever it is wanted: a copy
+// takes a small part of the time that the drawing of an icon takes. Icons and lists stay the caller's and must not
+// change meanwhile.
 #pragma once
+
+#include <map>
+#include <utility>
 
 #include <afxwin.h>
 #include <afxcmn.h>
 
-// Both answer the width in pixels that was drawn over; 0 where there is no such icon, and then nothing is drawn. The
-// icon and the list stay the caller's.
-int PaintIcon(CDC& dc, HICON icon, CPoint place);
-int PaintImage(CDC& dc, const CImageList* images, int index, CPoint place);
+class CIconPainter
+{
+public:
+    explicit CIconPainter(CDC& dc);
+    ~CIconPainter();
+
+    // Both answer the width in pixels that was drawn over; 0 where there is no such icon, and then nothing is drawn.
+    int PaintIcon(HICON icon, CPoint place);
+    int PaintImage(HIMAGELIST list, int index, CPoint place);
+
+private:
+    CIconPainter(const CIconPainter&);
+    CIconPainter& operator=(const CIconPainter&);
+
+    // The list, null for a handle, and the index or the handle.
+    typedef std::pair<HIMAGELIST, ULONG_PTR> Key;
+
+    struct Picture
+    {
+        HBITMAP bitmap; // null where there is nothing to draw
+        CSize size;
+    };
+
+    Picture MakePicture(const Key& key);
+    void DrawInto(const Key& key, CSize size);
+    int Paint(const Key& key, CPoint place);
+
+    CDC& m_dc;
+    CDC m_memory;
+    std::map<Key, Picture> m_pictures;
+};

@@ -281,13 +281,19 @@ void CStateTreeCtrl::SetSubtree(HTREEITEM item, int value)
     }
 }
 
-// One of the children is known already, so that one other kind of child is enough to end the search.
-int CStateTreeCtrl::FindParentValue(HTREEITEM parent, int knownChildValue) const
+// One of the children is known already, so that one other kind of child is enough to end the search. The questions go
+// to the native control directly: the dispatch of so many messages would take as long as their answers.
+int CStateTreeCtrl::FindParentValue(HTREEITEM parent, int knownChildValue)
 {
     CChildCount count;
     count.Add(knownChildValue);
-    for (HTREEITEM child = GetChildItem(parent); child != NULL && !count.IsDecided(); child = GetNextSiblingItem(child))
-        count.Add(GetValue(child));
+    LRESULT child = CTreeCtrl::DefWindowProc(TVM_GETNEXTITEM, TVGN_CHILD, reinterpret_cast<LPARAM>(parent));
+    while (child != 0 && !count.IsDecided())
+    {
+        const LRESULT state = CTreeCtrl::DefWindowProc(TVM_GETITEMSTATE, child, TVIS_STATEIMAGEMASK);
+        count.Add((state & TVIS_STATEIMAGEMASK) >> kStateImageShift);
+        child = CTreeCtrl::DefWindowProc(TVM_GETNEXTITEM, TVGN_NEXT, child);
+    }
     return count.ParentValue();
 }
 

@@ -79,7 +79,7 @@ private:
     int GetValue(HTREEITEM item, bool& mayHaveChildren) const;
     BOOL SetValue(HTREEITEM item, int value);
     void SetSubtree(HTREEITEM item, int value);
-    int FindParentValue(HTREEITEM parent, int knownChildValue) const;
+    int FindParentValue(HTREEITEM parent, int knownChildValue);
 
     HTREEITEM FindToggled(UINT message, WPARAM wParam, LPARAM lParam) const;
     void WatchChange(UINT message, LPARAM lParam);

@@ -308,11 +308,15 @@ TEST_F(IconTreePicture, ThePaintersAnswerTheWidthThatTheyDrew)
 {
     CDC& dc = *CDC::FromHandle(m_canvas.Dc());
     const PlainIcon icon(10, 12, kIconBlue);
-    EXPECT_EQ(10, PaintIcon(dc, icon, CPoint(0, 0)));
-    EXPECT_EQ(0, PaintIcon(dc, NULL, CPoint(0, 0)));
-    EXPECT_EQ(16, PaintImage(dc, &m_added, 2, CPoint(20, 20)));
-    EXPECT_EQ(256, m_canvas.Count(CRect(20, 20, 36, 36), kIconGreen));
-    EXPECT_EQ(0, PaintImage(dc, &m_added, 3, CPoint(0, 0)));
-    EXPECT_EQ(0, PaintImage(dc, &m_added, -1, CPoint(0, 0)));
-    EXPECT_EQ(0, PaintImage(dc, NULL, 0, CPoint(0, 0)));
+    CIconPainter painter(dc);
+    EXPECT_EQ(10, painter.PaintIcon(icon, CPoint(0, 0)));
+    EXPECT_EQ(0, painter.PaintIcon(NULL, CPoint(0, 0)));
+    for (int again = 0; again < 2; ++again)
+    {
+        EXPECT_EQ(16, painter.PaintImage(m_added.GetSafeHandle(), 2, CPoint(20 + 20 * again, 20)));
+        EXPECT_EQ(256, m_canvas.Count(CRect(20 + 20 * again, 20, 36 + 20 * again, 36), kIconGreen));
+        EXPECT_EQ(0, painter.PaintImage(m_added.GetSafeHandle(), 3, CPoint(0, 0)));
+        EXPECT_EQ(0, painter.PaintImage(m_added.GetSafeHandle(), -1, CPoint(0, 0)));
+    }
+    EXPECT_EQ(0, painter.PaintImage(NULL, 0, CPoint(0, 0)));
 }
