@@ -1,9 +1,12 @@
 ﻿#include "GalleryPages.h"
 
 #include "pages/EditableListPage.h"
+#include "pages/CheckTreePage.h"
+#include "pages/IconTreePage.h"
 #include "pages/InputDialogPage.h"
 #include "pages/SortListPage.h"
 #include "pages/SuperEditPage.h"
+#include "pages/TreeCommandsPage.h"
 
 namespace
 {
@@ -23,6 +26,9 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CInputDialogPage>(L"input-dialog", L"输入", L"输入对话框"),
         Page<CSortListPage>(L"sort-list", L"列表", L"可排序列表"),
         Page<CEditableListPage>(L"editable-list", L"列表", L"可编辑列表"),
+        Page<CCheckTreePage>(L"check-tree", L"树", L"勾选树"),
+        Page<CIconTreePage>(L"icon-tree", L"树", L"图标树"),
+        Page<CTreeCommandsPage>(L"tree-commands", L"树", L"条目树与命令"),
     };
     return pages;
 }
