@@ -45,8 +45,7 @@ const Subject kSubjects[] = {
     {"sort-list", bench::MeasureSortList},         {"editable-list", bench::MeasureEditableList},
     {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
     {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
-    {"combo-menu", bench::MeasureComboMenu},
-    {"trees", bench::MeasureTrees},
+    {"combo-menu", bench::MeasureComboMenu},       {"trees", bench::MeasureTrees},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)
