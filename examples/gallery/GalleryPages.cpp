@@ -1,5 +1,6 @@
 ﻿#include "GalleryPages.h"
 
+#include "pages/ComboButtonPage.h"
 #include "pages/EditableListPage.h"
 #include "pages/CheckTreePage.h"
 #include "pages/IconTreePage.h"
@@ -29,6 +30,7 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CCheckTreePage>(L"check-tree", L"树", L"勾选树"),
         Page<CIconTreePage>(L"icon-tree", L"树", L"图标树"),
         Page<CTreeCommandsPage>(L"tree-commands", L"树", L"条目树与命令"),
+        Page<CComboButtonPage>(L"combo-button", L"按钮", L"组合按钮"),
     };
     return pages;
 }

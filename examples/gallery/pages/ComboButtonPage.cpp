@@ -1,0 +1,86 @@
+﻿#include "ComboButtonPage.h"
+
+#include "../GalleryIds.h"
+
+const wchar_t CComboButtonPage::Description[] =
+    L"带一组命令的按钮：单击执行默认命令；右侧的箭头打开全部命令的菜单，选中的命令随即执行并成为默认命令。";
+
+const wchar_t CComboButtonPage::Code[] = LR"code(#include <ComboButton.h>
+
+class CNewCommand : public CComboButtonItem     // 按钮中的一条命令
+{
+public:
+    virtual bool Enabled() { return true; }
+    virtual HICON GetIcon() { return m_icon; }
+    virtual CString GetName() { return L"新建"; }
+    virtual void Action() { CreateNew(); }
+};
+
+DDX_Control(exchange, IDC_COMMANDS, m_button);  // 取代模板中的按钮
+m_button.AddItem(&m_new);                       // 第一条是默认命令
+m_button.AddItem(&m_copy);                      // 按钮不拥有它们
+m_button.SetComboButtonStyle(CBTS_ROUND | CBTS_GRADIENT | CBTS_SHOWIMAGE);)code";
+
+namespace
+{
+
+const UINT kRound = CBTS_ROUND | CBTS_GRADIENT | CBTS_HOTFRAME;
+const UINT kBoth = CBTS_SHOWIMAGE | CBTS_IMAGEANDTEXT;
+
+// As the labels of the template describe them.
+const UINT kStyles[] = {
+    CBTS_DEFAULT,
+    kRound,
+    kRound | kBoth,
+    kRound | kBoth | CBTS_IMAGEABOVE,
+    kBoth,
+    CBTS_GRADIENT | kBoth,
+    CBTS_FLAT | CBTS_SEPARATORONHOT | kBoth,
+    kRound | kBoth,
+};
+const int kUnavailable = 7;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CComboButtonPage, CGalleryPage)
+    ON_MESSAGE(UM_TREE_NEW, &CComboButtonPage::OnNew)
+    ON_MESSAGE(UM_TREE_COPYFROM, &CComboButtonPage::OnCopyFrom)
+    ON_MESSAGE(UM_TREE_EDIT, &CComboButtonPage::OnEdit)
+    ON_MESSAGE(UM_TREE_DEL, &CComboButtonPage::OnDelete)
+END_MESSAGE_MAP()
+
+CComboButtonPage::CComboButtonPage()
+    : CGalleryPage(IDD_COMBO_BUTTON_PAGE), m_new(this, MFCUtils::CComboButtonIMPItem::eNew, 0),
+      m_copy(this, MFCUtils::CComboButtonIMPItem::eCopyFrom, 0), m_edit(this, MFCUtils::CComboButtonIMPItem::eEdit, 0),
+      m_delete(this, MFCUtils::CComboButtonIMPItem::eDel, 0)
+{
+    m_delete.SetEnable(false);
+}
+
+void CComboButtonPage::DoDataExchange(CDataExchange* exchange)
+{
+    CGalleryPage::DoDataExchange(exchange);
+    for (int i = 0; i < BUTTONS; ++i)
+        DDX_Control(exchange, IDC_COMBO_BUTTON + i, m_buttons[i]);
+}
+
+BOOL CComboButtonPage::OnInitDialog()
+{
+    CGalleryPage::OnInitDialog();
+    for (int i = 0; i < BUTTONS; ++i)
+    {
+        m_buttons[i].AddItem(&m_new);
+        m_buttons[i].AddItem(&m_copy);
+        m_buttons[i].AddItem(&m_edit);
+        m_buttons[i].AddItem(&m_delete);
+        m_buttons[i].SetComboButtonStyle(kStyles[i]);
+    }
+    m_buttons[kUnavailable].SetDefaultItem(&m_delete);
+    return TRUE;
+}
+
+LRESULT CComboButtonPage::Show(const wchar_t* command)
+{
+    SetDlgItemText(IDC_COMBO_BUTTON_RESULT, CString(L"执行了：") + command);
+    return 0;
+}
