@@ -14,6 +14,8 @@
 #define IDB_TREE_IMAGES 109
 #define IDB_LIST_IMAGES 110
 
+#define IDR_EDIT_MENU 115
+
 // Controls of the message viewer.
 #define IDC_TAB 100
 #define IDC_SHOW_TREE 101

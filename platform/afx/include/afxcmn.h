@@ -6,6 +6,7 @@
 
 #include "afx/ctrl/HeaderCtrl.h"
 #include "afx/ctrl/ListCtrl.h"
+#include "afx/ctrl/RichEditCtrl.h"
 #include "afx/ctrl/TabCtrl.h"
 #include "afx/ctrl/ToolTipCtrl.h"
 #include "afx/ctrl/TreeCtrl.h"
