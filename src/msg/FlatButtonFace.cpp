@@ -1,0 +1,149 @@
+#include "msg/FlatButtonFace.h"
+
+#include <algorithm>
+
+namespace
+{
+
+const int kCornerEllipse = 2;
+const int kFramePixels = 1;
+const UINT kCaptionFormat = DT_WORDBREAK | DT_CENTER;
+
+// Guard: an object is selected into a device context while it lives. Null selects nothing.
+class CSelected
+{
+public:
+    CSelected(CDC& dc, HGDIOBJ object) : m_dc(dc.m_hDC), m_former(object == NULL ? NULL : ::SelectObject(m_dc, object))
+    {
+    }
+
+    ~CSelected()
+    {
+        if (m_former != NULL)
+            ::SelectObject(m_dc, m_former);
+    }
+
+private:
+    CSelected(const CSelected&);
+    CSelected& operator=(const CSelected&);
+
+    HDC m_dc;
+    HGDIOBJ m_former;
+};
+
+// Guard: text is drawn without a background while it lives.
+class CTransparent
+{
+public:
+    explicit CTransparent(CDC& dc) : m_dc(dc), m_mode(dc.SetBkMode(TRANSPARENT)), m_color(dc.GetTextColor()) {}
+
+    ~CTransparent()
+    {
+        m_dc.SetBkMode(m_mode);
+        m_dc.SetTextColor(m_color);
+    }
+
+private:
+    CTransparent(const CTransparent&);
+    CTransparent& operator=(const CTransparent&);
+
+    CDC& m_dc;
+    int m_mode;
+    COLORREF m_color;
+};
+
+// 0 by 0 for a handle that is no icon.
+CSize IconSize(HICON icon)
+{
+    ICONINFO info = {};
+    if (icon == NULL || !::GetIconInfo(icon, &info))
+        return CSize(0, 0);
+    BITMAP bitmap = {};
+    ::GetObject(info.hbmMask, sizeof(bitmap), &bitmap);
+    // An icon of two colours keeps both of its masks in one bitmap.
+    const CSize size(bitmap.bmWidth, info.hbmColor == NULL ? bitmap.bmHeight / 2 : bitmap.bmHeight);
+    ::DeleteObject(info.hbmMask);
+    if (info.hbmColor != NULL)
+        ::DeleteObject(info.hbmColor);
+    return size;
+}
+
+CPoint IconPlace(const CRect& client, CSize size)
+{
+    CRect inside(client);
+    inside.DeflateRect(kFramePixels, kFramePixels);
+    const LONG x = std::max<LONG>((inside.Width() - size.cx) / 2, 0);
+    const LONG y = std::max<LONG>((inside.Height() - size.cy) / 2, 0);
+    return CPoint(inside.left + x, inside.top + y);
+}
+
+void DrawCaption(CDC& dc, CRect place, const CString& caption, int color)
+{
+    dc.SetTextColor(::GetSysColor(color));
+    dc.DrawText(caption, &place, kCaptionFormat);
+}
+
+} // namespace
+
+void DrawFlatButtonFrame(CDC& dc, const CRect& client, FlatButtonFrame frame, COLORREF background)
+{
+    if (frame == FLAT_BUTTON_FLAT)
+    {
+        CBrush brush(background);
+        dc.FillRect(&client, &brush);
+    }
+    else if (frame == FLAT_BUTTON_RAISED)
+    {
+        dc.Draw3dRect(&client, ::GetSysColor(COLOR_3DHILIGHT), ::GetSysColor(COLOR_3DSHADOW));
+    }
+    else
+    {
+        CBrush brush(background);
+        const CSelected selected(dc, brush.GetSafeHandle());
+        dc.RoundRect(&client, CPoint(kCornerEllipse, kCornerEllipse));
+        dc.Draw3dRect(&client, ::GetSysColor(COLOR_3DDKSHADOW), ::GetSysColor(COLOR_3DHILIGHT));
+    }
+}
+
+CRect FlatButtonContentRect(const CRect& client)
+{
+    CRect content(client);
+    content.OffsetRect(kFramePixels, kFramePixels);
+    return content;
+}
+
+void DrawFlatButtonBitmap(CDC& dc, const CRect& client, HBITMAP bitmap, bool disabled)
+{
+    BITMAP info = {};
+    if (bitmap == NULL || ::GetObject(bitmap, sizeof(info), &info) != sizeof(info))
+        return;
+    const CPoint place = FlatButtonContentRect(client).TopLeft();
+    dc.DrawState(place, CSize(info.bmWidth, info.bmHeight), bitmap,
+                 DST_BITMAP | (disabled ? DSS_DISABLED : DSS_NORMAL));
+}
+
+void DrawFlatButtonIcon(CDC& dc, const CRect& client, HICON icon, bool disabled)
+{
+    const CSize size = IconSize(icon);
+    if (size.cx > 0 && size.cy > 0)
+        dc.DrawState(IconPlace(client, size), size, icon, disabled ? DSS_DISABLED : DSS_NORMAL);
+}
+
+void DrawFlatButtonCaption(CDC& dc, const CRect& client, const CString& caption, HFONT font, bool disabled)
+{
+    const CSelected selected(dc, font);
+    const CTransparent transparent(dc);
+    const CRect content = FlatButtonContentRect(client);
+    CRect place(content);
+    dc.DrawText(caption, &place, kCaptionFormat | DT_CALCRECT);
+    place.OffsetRect(content.CenterPoint() - place.CenterPoint());
+    if (disabled)
+    {
+        DrawCaption(dc, place + CPoint(1, 1), caption, COLOR_3DHILIGHT);
+        DrawCaption(dc, place, caption, COLOR_3DSHADOW);
+    }
+    else
+    {
+        DrawCaption(dc, place, caption, COLOR_BTNTEXT);
+    }
+}
