@@ -65,5 +65,6 @@ void MeasureFollowTip(Report& report);
 void MeasureLabel(Report& report);
 void MeasureComboMenu(Report& report);
 void MeasureTrees(Report& report);
+void MeasureRichEdit(Report& report);
 
 } // namespace bench

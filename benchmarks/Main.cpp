@@ -46,6 +46,7 @@ const Subject kSubjects[] = {
     {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
     {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
     {"combo-menu", bench::MeasureComboMenu},       {"trees", bench::MeasureTrees},
+    {"rich-edit", bench::MeasureRichEdit},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)

@@ -20,7 +20,7 @@ constexpr int kRuns = 5;
 constexpr double kMilliseconds = 1e3;
 constexpr int kMegabyte = 1 << 20;
 constexpr int kLargeMegabytes = 4;
-constexpr int kTextEvery = 64; // one line of text in so many of other data, as in a text with pictures
+constexpr int kTextEvery = 64;  // one line of text in so many of other data, as in a text with pictures
 constexpr double kLinear = 1.3; // how much more a byte of the large text may cost
 
 struct Source

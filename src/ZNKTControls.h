@@ -1,8 +1,10 @@
 // Everything that ZNKTControls.arx offers.
 #pragma once
 
+#include "app/DySubclassWnd.h"
 #include "button/ComboButton.h"
 #include "button/ComboButtonItem.h"
+#include "dialog/AutoRichEditCtrl.h"
 #include "edit/InputDialog.h"
 #include "edit/SuperEdit.h"
 #include "list/ZNListCtrl.h"

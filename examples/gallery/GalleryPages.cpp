@@ -5,6 +5,7 @@
 #include "pages/CheckTreePage.h"
 #include "pages/IconTreePage.h"
 #include "pages/InputDialogPage.h"
+#include "pages/RichEditPage.h"
 #include "pages/SortListPage.h"
 #include "pages/SuperEditPage.h"
 #include "pages/TreeCommandsPage.h"
@@ -25,6 +26,7 @@ const std::vector<GalleryEntry>& GalleryPages()
     static const std::vector<GalleryEntry> pages = {
         Page<CSuperEditPage>(L"super-edit", L"输入", L"校验编辑框"),
         Page<CInputDialogPage>(L"input-dialog", L"输入", L"输入对话框"),
+        Page<CRichEditPage>(L"rich-edit", L"输入", L"多格式文本框"),
         Page<CSortListPage>(L"sort-list", L"列表", L"可排序列表"),
         Page<CEditableListPage>(L"editable-list", L"列表", L"可编辑列表"),
         Page<CCheckTreePage>(L"check-tree", L"树", L"勾选树"),

@@ -7,12 +7,13 @@
 
 IMPLEMENT_DYNAMIC(CDySubclassWnd, CObject)
 
-CDySubclassWnd::CDySubclassWnd() : m_hooked(NULL), m_previous(NULL), m_next(NULL) {}
+CDySubclassWnd::CDySubclassWnd() : m_hooked(NULL), m_previous(NULL), m_next(NULL), m_wasHooked(false) {}
 
 CDySubclassWnd::~CDySubclassWnd()
 {
     HookWindow(NULL);
-    CHookDispatch::Forget(*this);
+    if (m_wasHooked)
+        CHookDispatch::Forget(*this);
 }
 
 BOOL CDySubclassWnd::HookWindow(HWND hwnd)
@@ -26,6 +27,8 @@ BOOL CDySubclassWnd::HookWindow(HWND hwnd)
 
 LRESULT CDySubclassWnd::WindowProc(UINT msg, WPARAM wParam, LPARAM lParam)
 {
+    if (!m_wasHooked)
+        return 0;
     // A hook that left its chain during this message passes it on from the place that it had.
     LRESULT result = 0;
     if (CHookDispatch::PassOn(*this, msg, wParam, lParam, result))

@@ -63,4 +63,5 @@ private:
     HWND m_hooked;
     WNDPROC m_previous; // the window's procedure before the first hook of the chain came; the same for all of them
     CDySubclassWnd* m_next;
+    bool m_wasHooked; // a hook that never was attached may live on any thread
 };

@@ -70,6 +70,7 @@ void CSubclassWndMap::Add(HWND hwnd, CDySubclassWnd& hook)
     SetAt(hwnd, &hook);
     hook.m_previous = previous;
     hook.m_hooked = hwnd;
+    hook.m_wasHooked = true;
 }
 
 void CSubclassWndMap::Remove(CDySubclassWnd& hook)

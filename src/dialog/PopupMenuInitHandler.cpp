@@ -32,12 +32,14 @@ bool PointAtItem(CCmdUI& state)
     return state.m_nID != 0 && state.m_nID != kSubmenu;
 }
 
-// Follows an update handler that removed or added items. The loop's own step makes the first item of an index of -1.
+// Follows an update handler that removed or added items. The loop's own step makes the first item of an index of -1,
+// where all that was done is gone.
 void FollowCount(CCmdUI& state, UINT count)
 {
     if (count < state.m_nIndexMax)
     {
-        state.m_nIndex -= state.m_nIndexMax - count;
+        const UINT gone = state.m_nIndexMax - count;
+        state.m_nIndex = gone > state.m_nIndex ? static_cast<UINT>(-1) : state.m_nIndex - gone;
         while (state.m_nIndex < count && state.m_pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
             ++state.m_nIndex;
     }

@@ -206,6 +206,18 @@ TEST_F(PopupMenuInit, AnUpdateMayRemoveSeveralItems)
     EXPECT_EQ((Ids{200, 201, 202, 203, 204, 205}), AskedIds());
 }
 
+TEST_F(PopupMenuInit, AnUpdateMayRemoveMoreThanWasDone)
+{
+    for (UINT id = 200; id < 206; ++id)
+        Add(id);
+    m_window.onUpdate = [](CCmdUI& item) {
+        for (const UINT id : {200u, 202u, 203u, 204u})
+            item.m_pMenu->DeleteMenu(id, MF_BYCOMMAND);
+    };
+    Open();
+    EXPECT_EQ((Ids{200, 201, 205}), AskedIds());
+}
+
 TEST_F(PopupMenuInit, AnUpdateMayReplaceItsItemBySeveralOfTheSameId)
 {
     Add(200);

@@ -4,6 +4,7 @@
 #include "gallery/GalleryIds.h"
 
 #include <commctrl.h>
+#include <richedit.h>
 
 #include <SuperEditTypes.h>
 
@@ -124,4 +125,23 @@ TEST_F(GalleryPages, SortableListSortsByItsHeadings)
     click.iSubItem = 1;
     ::SendMessageW(Page(), WM_NOTIFY, IDC_SORT_LIST, reinterpret_cast<LPARAM>(&click));
     EXPECT_GT(largest, firstCount());
+}
+
+TEST_F(GalleryPages, RichEditFormatsTheSelection)
+{
+    Run(L"GALLERYPAGE rich-edit");
+    const HWND text = PageControl(IDC_RICH_EDIT_TEXT);
+    ASSERT_TRUE(text != NULL);
+    CHARRANGE word = {6, 8};
+    ::SendMessageW(text, EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&word));
+    const auto isItalic = [text] {
+        CHARFORMAT2W format = {};
+        format.cbSize = sizeof(format);
+        ::SendMessageW(text, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+        return (format.dwEffects & CFE_ITALIC) != 0;
+    };
+    EXPECT_FALSE(isItalic());
+    ::SendMessageW(PageControl(IDC_RICH_EDIT_ITALIC), BM_CLICK, 0, 0);
+    EXPECT_TRUE(isItalic());
+    EXPECT_EQ(text, ::GetFocus()) << "the text goes on";
 }

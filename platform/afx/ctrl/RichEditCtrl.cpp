@@ -64,8 +64,8 @@ CString CRichEditCtrl::GetSelText() const
     CHARRANGE range = {};
     GetSel(range);
     CString text;
-    const long copied = GetSelText(text.GetBufferSetLength(range.cpMax - range.cpMin + 1));
-    text.ReleaseBuffer(copied);
+    const LPTSTR buffer = text.GetBufferSetLength(range.cpMax - range.cpMin + 1);
+    text.ReleaseBuffer(GetSelText(reinterpret_cast<LPSTR>(buffer)));
     return text;
 }
 

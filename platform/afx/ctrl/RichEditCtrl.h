@@ -44,7 +44,8 @@ public:
     void SetSel(long start, long end);
     void SetSel(CHARRANGE& range) { Ask(EM_EXSETSEL, 0, LPARAM(&range)); }
     WORD GetSelectionType() const { return static_cast<WORD>(Ask(EM_SELECTIONTYPE)); }
-    long GetSelText(LPTSTR buffer) const { return static_cast<long>(Ask(EM_GETSELTEXT, 0, LPARAM(buffer))); }
+    // The control of this version writes UTF-16 characters, whatever the documented type of the buffer says.
+    long GetSelText(LPSTR buffer) const { return static_cast<long>(Ask(EM_GETSELTEXT, 0, LPARAM(buffer))); }
     CString GetSelText() const;
     void HideSelection(BOOL hide, BOOL changeStyle) { Ask(EM_HIDESELECTION, hide, changeStyle); }
     void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) { Ask(EM_REPLACESEL, canUndo, LPARAM(text)); }

@@ -67,7 +67,7 @@ TEST_F(RichEdit, SelectionIsReadWrittenAndReplaced)
     EXPECT_EQ(7, end);
     EXPECT_STREQ(L"two", m_edit.GetSelText());
     TCHAR buffer[16] = L"";
-    EXPECT_EQ(3, m_edit.GetSelText(buffer));
+    EXPECT_EQ(3, m_edit.GetSelText(reinterpret_cast<LPSTR>(buffer)));
     EXPECT_STREQ(L"two", buffer);
     EXPECT_EQ(SEL_TEXT, m_edit.GetSelectionType() & SEL_TEXT);
     m_edit.ReplaceSel(L"2", TRUE);

@@ -1,0 +1,92 @@
+﻿#include "RichEditPage.h"
+
+#include "../GalleryIds.h"
+
+const wchar_t CRichEditPage::Description[] =
+    L"带格式的文本：选中文字后单击按钮即可设置格式，部分带有的格式会扩展到整个选区。右键单击打开编辑菜单。";
+
+const wchar_t CRichEditPage::Code[] = LR"(#include <AutoRichEditCtrl.h>
+
+CAutoRichEditCtrl m_text;                    // 对话框成员，构造时给出菜单：
+CNoteDlg::CNoteDlg() : m_text(ZNKT_EDIT_MENU) {}
+DDX_Control(exchange, IDC_TEXT, m_text);     // 模板中的 RichEdit20W 控件
+
+m_text.SetRTF(L"{\\rtf1 一般，{\\b 粗体}}"); // 汉字可以直接书写
+m_text.ToggleBold();                         // 选区的格式
+m_text.SetFontSize(14);                      // 磅
+m_text.AlignCenter();
+m_text.ToggleBullet();
+m_text.SetColor();                           // 请用户选择颜色
+Save(m_text.GetRTF());)";
+
+namespace
+{
+
+const int kLargePoints = 16;
+const int kNormalPoints = 11;
+
+const wchar_t kText[] = L"{\\rtf1\\ansi{\\fonttbl{\\f0\\fnil\\fcharset134 SimSun;}}"
+                        L"{\\colortbl;\\red192\\green0\\blue0;\\red0\\green96\\blue160;}\\f0"
+                        L"\\qc\\fs32\\b 技术要求\\b0\\par\\ql\\fs22 "
+                        L"未注圆角 {\\b R2}，未注倒角 {\\b C1}。\\par "
+                        L"热处理后硬度 {\\cf1 HRC 45\\u8211?50}，表面{\\ul 不得有裂纹}。\\par "
+                        L"装配前清除{\\i 毛刺}和{\\i 铁屑}，配合面涂{\\cf2 防锈油}。\\par}";
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CRichEditPage, CGalleryPage)
+    ON_COMMAND_RANGE(IDC_RICH_EDIT_BOLD, IDC_RICH_EDIT_COLOR, &CRichEditPage::OnFormat)
+END_MESSAGE_MAP()
+
+CRichEditPage::CRichEditPage() : CGalleryPage(IDD_RICH_EDIT_PAGE), m_text(ZNKT_EDIT_MENU) {}
+
+void CRichEditPage::DoDataExchange(CDataExchange* exchange)
+{
+    CGalleryPage::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_RICH_EDIT_TEXT, m_text);
+}
+
+BOOL CRichEditPage::OnInitDialog()
+{
+    CGalleryPage::OnInitDialog();
+    m_text.SetRTF(kText);
+    m_text.SetSel(5, -1); // everything behind the heading
+    m_text.ToggleBullet();
+    m_text.SetSel(0, 0);
+    return TRUE;
+}
+
+void CRichEditPage::OnFormat(UINT id)
+{
+    switch (id)
+    {
+    case IDC_RICH_EDIT_BOLD:
+        m_text.ToggleBold();
+        break;
+    case IDC_RICH_EDIT_ITALIC:
+        m_text.ToggleItalic();
+        break;
+    case IDC_RICH_EDIT_UNDERLINE:
+        m_text.ToggleUnderline();
+        break;
+    case IDC_RICH_EDIT_LEFT:
+        m_text.AlignLeft();
+        break;
+    case IDC_RICH_EDIT_CENTER:
+        m_text.AlignCenter();
+        break;
+    case IDC_RICH_EDIT_RIGHT:
+        m_text.AlignRight();
+        break;
+    case IDC_RICH_EDIT_BULLET:
+        m_text.ToggleBullet();
+        break;
+    case IDC_RICH_EDIT_SIZE:
+        m_text.SetFontSize(m_text.GetFontSize() == kLargePoints ? kNormalPoints : kLargePoints);
+        break;
+    case IDC_RICH_EDIT_COLOR:
+        m_text.SetColor();
+        break;
+    }
+    m_text.SetFocus(); // the selection is seen while the text has the focus
+}
