@@ -1,7 +1,7 @@
 // The edit menu under a real mouse and keyboard.
 #include "RichEditFixture.h"
 
-#include "Wait.h"
+#include "RealMouse.h"
 
 class EditMenuInput : public RichEditFixture
 {
@@ -15,8 +15,7 @@ protected:
         m_edit.UpdateWindow();
     }
 
-    // A click with the right button on the control. Under Wine a move that the display reports late takes the cursor
-    // back before the button goes down: a click that opened nothing in time is tried again.
+    // A click with the right button on the control; one that opened nothing in time is tried again.
     bool RightClickUntilOpened(const MenuDriver& driver)
     {
         CRect rect;
@@ -25,9 +24,8 @@ protected:
         const int before = driver.Opened();
         for (int i = 0; i < attempts && driver.Opened() == before; ++i)
         {
-            ::SetCursorPos(rect.CenterPoint().x, rect.CenterPoint().y);
-            SendMouse(MOUSEEVENTF_RIGHTDOWN);
-            SendMouse(MOUSEEVENTF_RIGHTUP);
+            SendMouse(rect.CenterPoint(), MOUSEEVENTF_RIGHTDOWN);
+            SendMouse(rect.CenterPoint(), MOUSEEVENTF_RIGHTUP);
             WaitFor([&] { return driver.Opened() != before; }, 2 * ::GetDoubleClickTime());
         }
         return driver.Opened() != before;

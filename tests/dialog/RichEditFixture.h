@@ -90,4 +90,3 @@ std::wstring ItemText(HMENU menu, int position);
 bool IsGrey(HMENU menu, UINT id);
 
 void SendKey(WORD key);
-void SendMouse(DWORD flags);

@@ -1,7 +1,7 @@
 // The flat button under a real mouse.
 #include "MyButtonFixture.h"
 
-#include "Wait.h"
+#include "RealMouse.h"
 
 class MyButtonInput : public MyButtonFixture
 {
@@ -15,30 +15,17 @@ protected:
         m_button.UpdateWindow();
     }
 
-    static void Send(DWORD flags)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        ::SendInput(1, &input, sizeof(input));
-    }
-
-    // Puts the cursor there, again while the condition does not hold: a move that the display reports late may take it
-    // back under Wine.
-    template<class CONDITION>
-    bool MouseAt(CPoint client, CONDITION condition)
+    CPoint OnScreen(CPoint client) const
     {
         CPoint point(client);
         m_button.ClientToScreen(&point);
-        const int attempts = 10;
-        for (int i = 0; i < attempts; ++i)
-        {
-            ::SetCursorPos(point.x, point.y);
-            Send(MOUSEEVENTF_MOVE);
-            if (WaitFor(condition, 500))
-                return true;
-        }
-        return false;
+        return point;
+    }
+
+    template<class CONDITION>
+    bool MouseAt(CPoint client, CONDITION condition)
+    {
+        return MoveMouseUntil(OnScreen(client), condition);
     }
 
     const CPoint kInside{kWidth / 2, kHeight / 2};
@@ -56,9 +43,9 @@ TEST_F(MyButtonInput, TheFrameRisesUnderTheMouseAndGoesWithIt)
 TEST_F(MyButtonInput, APressSinksTheFrameAndAReleaseClicks)
 {
     ASSERT_TRUE(MouseAt(kInside, [this] { return m_button.IsHovering(); }));
-    Send(MOUSEEVENTF_LEFTDOWN);
+    SendMouse(OnScreen(kInside), MOUSEEVENTF_LEFTDOWN);
     EXPECT_TRUE(WaitFor([this] { return ShowsSunken(); }));
-    Send(MOUSEEVENTF_LEFTUP);
+    SendMouse(OnScreen(kInside), MOUSEEVENTF_LEFTUP);
     EXPECT_TRUE(WaitFor([this] { return m_owner.clicks == 1; }));
     EXPECT_FALSE(ShowsSunken());
 }

@@ -50,9 +50,6 @@ BOOL CRichEditPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
     m_text.SetRTF(kText);
-    m_text.SetSel(5, -1); // everything behind the heading
-    m_text.ToggleBullet();
-    m_text.SetSel(0, 0);
     return TRUE;
 }
 

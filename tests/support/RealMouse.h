@@ -1,0 +1,40 @@
+// The real mouse, whose place travels with each event: under Wine the display may report an earlier place of the cursor
+// late, which would take it back from wherever it had been set before.
+//
+//   SendMouse(point, MOUSEEVENTF_LEFTDOWN);
+//   EXPECT_TRUE(MoveMouseUntil(point, [&] { return button.IsHovering(); }));
+//
+// Points are screen coordinates.
+#pragma once
+
+#include <afxwin.h>
+
+#include "Wait.h"
+
+inline void SendMouse(CPoint point, DWORD flags)
+{
+    constexpr int units = 65536; // across the screen, each way
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = (point.x * units + units / 2) / ::GetSystemMetrics(SM_CXSCREEN);
+    input.mi.dy = (point.y * units + units / 2) / ::GetSystemMetrics(SM_CYSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+    ::SendInput(1, &input, sizeof(input));
+}
+
+// Moves the display's own cursor as well, so that it stays; to the point and beside it in turn, because a move to where
+// the cursor is tells nobody.
+template<class CONDITION>
+bool MoveMouseUntil(CPoint point, CONDITION condition)
+{
+    constexpr int attempts = 10;
+    for (int i = 0; i < attempts; ++i)
+    {
+        const CPoint place = point + CPoint(i % 2, 0);
+        ::SetCursorPos(place.x, place.y);
+        SendMouse(place, 0);
+        if (WaitFor(condition, 500))
+            return true;
+    }
+    return false;
+}
