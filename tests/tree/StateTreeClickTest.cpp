@@ -344,6 +344,29 @@ TEST_F(StateTreeClicks, TheOwnerMayDestroyTheTreeInTheClick)
     EXPECT_EQ(nullptr, m_tree.m_hWnd);
 }
 
+TEST_F(StateTreeClicks, TheOwnerMayDestroyTheTreeWhileTheNativeControlWorksOnThePress)
+{
+    for (UINT code : {STATETREEN_CHECKCHANGED, STATETREEN_CLICK})
+    {
+        CStateTreeCtrl tree;
+        tree.Create(kStyle, Place(), &m_owner, 12);
+        const HTREEITEM item = tree.InsertItem(L"item");
+        tree.UpdateWindow();
+        CRect label;
+        tree.GetItemRect(item, &label, TRUE);
+        const CPoint box(label.left - 10, label.CenterPoint().y);
+        PutUnderCursor(tree, box);
+        m_owner.onTold = [&](const StateTreeOwner::Told& one) {
+            if (one.code == code)
+                tree.DestroyWindow();
+        };
+        const HWND window = tree.m_hWnd;
+        ::PostMessage(window, WM_LBUTTONUP, 0, MAKELPARAM(box.x, box.y));
+        ::SendMessage(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(box.x, box.y));
+        EXPECT_EQ(nullptr, tree.m_hWnd);
+    }
+}
+
 TEST_F(StateTreeClicks, TheOwnerMayDeleteTheTreeObjectInTheCheckChange)
 {
     std::unique_ptr<CStateTreeCtrl> tree(new CStateTreeCtrl);

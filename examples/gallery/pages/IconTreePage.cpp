@@ -35,7 +35,6 @@ enum Mark
 };
 
 constexpr int kMarkPixels = 16;
-constexpr int kRowPixels = 20;
 
 } // namespace
 
@@ -50,7 +49,6 @@ void CIconTreePage::DoDataExchange(CDataExchange* exchange)
 BOOL CIconTreePage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
-    m_tree.SetItemHeight(kRowPixels);
     LoadMarks();
     m_tree.SetAddedImageList(&m_marks);
     const HTREEITEM standard = Add(L"标准件", TVI_ROOT, {});
