@@ -52,7 +52,7 @@ int CheckLimits(const EditRules& rules, const CString& text)
 }
 
 CEditValidation::CEditValidation(const EditRules& rules, const CString& text, int status)
-    : m_rules(rules), m_text(text), m_isAnswered(false)
+    : m_rules(rules), m_text(text), m_isAnswered(rules.customAnswered)
 {
     m_verdict.syntaxValid = false;
     m_verdict.lengthValid = false;
@@ -64,8 +64,7 @@ void CEditValidation::TakeAnswer(const EditAnswer& answer)
 {
     m_isAnswered = answer.isAnswered;
     Judge(answer.status, answer.brush);
-    if (m_rules.checkRange && m_verdict.brush == BRUSH_VALID && CheckTypeRange(m_rules.set, m_text) != 0)
-        Judge(VVB_TYPE_RANGE, BRUSH_WARNING);
+    JudgeTypeRange();
 }
 
 void CEditValidation::JudgeCharacters()
@@ -80,15 +79,16 @@ void CEditValidation::JudgeCharacters()
     }
     if (m_rules.set == VVE_SIGNED)
         JudgeSign();
-    if (m_rules.checkRange && m_verdict.brush == BRUSH_VALID && CheckTypeRange(m_rules.set, m_text) != 0)
-        Judge(VVB_TYPE_RANGE, BRUSH_WARNING);
+    JudgeTypeRange();
 }
 
-// The type range does not matter here: a number that no double holds meets the limits first.
+// A set of numbers with a point has no range here: a number that no double holds meets the limits first.
 void CEditValidation::JudgeFloat()
 {
     const FloatSyntax syntax = ScanFloat(m_text, m_verdict.status);
     Judge(syntax.status, syntax.brush);
+    if (m_rules.set != VVE_FLOAT)
+        JudgeTypeRange();
 }
 
 const EditVerdict& CEditValidation::Finish()
@@ -128,6 +128,12 @@ void CEditValidation::JudgeSign()
         Judge(VVB_INVALID, BRUSH_ERROR);
     else if (beginsWithSign && rest.IsEmpty())
         Judge(VVB_INCOMPLETE, BRUSH_WARNING);
+}
+
+void CEditValidation::JudgeTypeRange()
+{
+    if (m_rules.checkRange && m_verdict.brush == BRUSH_VALID && CheckTypeRange(m_rules.set, m_text) != 0)
+        Judge(VVB_TYPE_RANGE, BRUSH_WARNING);
 }
 
 void CEditValidation::JudgeLength(int length)

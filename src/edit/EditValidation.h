@@ -16,7 +16,8 @@ struct EditRules
     VVEset set;
     const CharTable* allowed;
     bool anyChar;
-    bool custom; // the parent judges
+    bool custom;         // the parent judges
+    bool customAnswered; // the last time that it was asked
     bool customErrorIsValid[2];
     bool isDisabled;
     bool checkLength;
@@ -80,6 +81,7 @@ public:
 private:
     void Judge(int status, EditBrush brush);
     void JudgeSign();
+    void JudgeTypeRange();
     void JudgeLength(int length);
     void JudgeEmptyText();
     void JudgeValue();

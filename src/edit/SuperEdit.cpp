@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/PlainNumber.h"
+#include "base/WindowWatch.h"
 #include "edit/CharTable.h"
 #include "edit/EditBrush.h"
 #include "edit/EditValidation.h"
@@ -16,7 +18,8 @@ const int kMaxTipWidth = 400;
 const UINT_PTR kTipTool = 1;
 const UINT kAnswerMilliseconds = 1;
 
-const wchar_t kTipFormat[] = L"最小值:%g\n最大值:%g\n默认值:%g";
+const wchar_t kTipFormat[] = L"最小值:%s\n最大值:%s\n默认值:%s";
+const wchar_t kTipNumberFormat[] = L"%g";
 const wchar_t kTipFailure[] = L"Create ToolTip Error!";
 const wchar_t kFailureCaption[] = L"错误";
 
@@ -179,7 +182,10 @@ CBrush* CSuperEdit::Validate()
     CEditValidation validation(rules, text, m_status);
     if (m_customValidation && !m_disableValidation)
     {
+        const CWindowWatch watch(*this);
         const EditAnswer answer = AskParent(text);
+        if (watch.IsGone())
+            return NULL;
         m_customAnswered = answer.isAnswered;
         validation.TakeAnswer(answer);
     }
@@ -260,8 +266,12 @@ int CSuperEdit::CheckRange() const
 
 void CSuperEdit::SelectAll()
 {
+    if (GetSafeHwnd() == NULL)
+        return; // without a window the focus would be taken from every other one
+    const CWindowWatch watch(*this);
     SetFocus();
-    SetSel(0, -1);
+    if (!watch.IsGone())
+        SetSel(0, -1);
 }
 
 BOOL CSuperEdit::PreTranslateMessage(MSG* message)
@@ -285,6 +295,7 @@ int CSuperEdit::CheckValueOutRange()
 
 BOOL CSuperEdit::OnCommand(WPARAM wParam, LPARAM lParam)
 {
+    const CWindowWatch watch(*this);
     switch (LOWORD(wParam))
     {
     case COMMAND_UNDO:
@@ -306,7 +317,7 @@ BOOL CSuperEdit::OnCommand(WPARAM wParam, LPARAM lParam)
         SelectAll();
         break;
     }
-    return CEdit::OnCommand(wParam, lParam);
+    return watch.IsGone() ? TRUE : CEdit::OnCommand(wParam, lParam);
 }
 
 HBRUSH CSuperEdit::CtlColor(CDC* dc, UINT)
@@ -315,6 +326,8 @@ HBRUSH CSuperEdit::CtlColor(CDC* dc, UINT)
         return NULL;
     CBrush* const brush = Validate();
     LOGBRUSH data;
+    if (brush == NULL)
+        return NULL;
     if (brush->GetLogBrush(&data) != 0)
         dc->SetBkColor(data.lbColor);
     return *brush;
@@ -344,7 +357,10 @@ void CSuperEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 
 void CSuperEdit::OnSetFocus(CWnd* oldWindow)
 {
+    const CWindowWatch watch(*this);
     CEdit::OnSetFocus(oldWindow);
+    if (watch.IsGone())
+        return;
     if ((!m_tipTextSet || m_tipText.IsEmpty()) && m_tipEnabled && m_valueCheck)
         ShowLimitsInTip();
     if (m_tipMade)
@@ -355,10 +371,10 @@ void CSuperEdit::OnSetFocus(CWnd* oldWindow)
 
 void CSuperEdit::OnKillFocus(CWnd* newWindow)
 {
-    const HWND window = m_hWnd;
+    const CWindowWatch watch(*this);
     CEdit::OnKillFocus(newWindow);
     // A parent that edits in place destroys the edit, and its object with it, when it hears of the lost focus.
-    if (CWnd::FromHandlePermanent(window) != this)
+    if (watch.IsGone())
         return;
     if (m_valueCheck && !m_disableValidation && !m_valid)
         SetWindowValue(m_default);
@@ -385,6 +401,7 @@ EditRules CSuperEdit::Rules() const
     rules.allowed = &m_allowedChars;
     rules.anyChar = m_anyChar != 0;
     rules.custom = m_customValidation != 0;
+    rules.customAnswered = m_customAnswered != 0;
     for (int i = 0; i < CUSTOM_VERDICTS; ++i)
         rules.customErrorIsValid[i] = m_customErrorIsValid[i] != 0;
     rules.isDisabled = m_disableValidation != 0;
@@ -419,15 +436,17 @@ VVENotice CSuperEdit::Notice() const
     return notice;
 }
 
+// Null when the parent destroyed the window while it was told.
 CBrush* CSuperEdit::Finish(CEditValidation& validation)
 {
+    const CWindowWatch watch(*this);
     const EditVerdict& verdict = validation.Finish();
     m_status = verdict.status;
     m_syntaxValid = verdict.syntaxValid;
     m_lengthValid = verdict.lengthValid;
     m_valueValid = verdict.valueValid;
     SetValid(verdict.IsValid());
-    return BrushOf(verdict.brush);
+    return watch.IsGone() ? NULL : BrushOf(verdict.brush);
 }
 
 void CSuperEdit::SetValid(int valid)
@@ -471,7 +490,9 @@ void CSuperEdit::ReportFailure(const wchar_t* text)
 
 void CSuperEdit::ShowLimitsInTip()
 {
-    m_tipText.Format(kTipFormat, m_minimum, m_maximum, m_default);
+    m_tipText.Format(kTipFormat, PlainNumberText(kTipNumberFormat, m_minimum).GetString(),
+                     PlainNumberText(kTipNumberFormat, m_maximum).GetString(),
+                     PlainNumberText(kTipNumberFormat, m_default).GetString());
     RemoveTip();
 }
 
@@ -491,8 +512,11 @@ void CSuperEdit::MakeTip()
 
 void CSuperEdit::ShowTip()
 {
+    const CWindowWatch watch(*this);
     if (m_toolTip.GetToolCount() == 0)
         AddTip();
+    if (watch.IsGone())
+        return;
     m_toolTip.Activate(TRUE);
     m_toolTip.Update();
 }

@@ -16,6 +16,8 @@
 // The parent gets EN_CHANGE as from any edit; WM_VVE_VALIDITY when the text becomes valid or invalid; with
 // SetCustomValidation WM_VVE_VALIDATE, to judge the text itself (SuperEditTypes.h).
 //
+// The parent may destroy the window in any of these, and delete the object with it.
+//
 // The text is validated while it is painted: a control that is hidden, disabled or read-only keeps its last verdict
 // until DoValidation(0).
 //
@@ -129,7 +131,7 @@ public:
     // Validates now: with `redraw` by repainting, else, and without a window, directly.
     void DoValidation(int redraw);
 
-    // Validation by hand. The brush belongs to the control.
+    // Validation by hand. The brush belongs to the control; null when the parent destroyed the window meanwhile.
     CBrush* Validate();
     CBrush* CheckAlphaNum();
     CBrush* CheckDecimal();
@@ -190,7 +192,7 @@ private:
 
     // Values.
     ValueRules ReadingRules() const;
-    void SetUpNumber(VVEset set, double def, double min, double max, int emptyValid);
+    bool SetUpNumber(VVEset set, double def, double min, double max, int emptyValid);
     void ShowFloat(const CString& text);
     void ReportFailure(const wchar_t* text);
 

@@ -1,7 +1,7 @@
 // What the validating edit and its parent talk about: character sets, verdicts, messages.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 // Which characters a validating edit takes. The sets 4 to 9 are numeric: their texts have a value and a range.
 enum VVEset

@@ -1,10 +1,10 @@
 ﻿// The numeric side of the validating edit: limits, reading and writing values.
 #include "edit/SuperEdit.h"
 
-#include <cstdlib>
-
 #include <algorithm>
 
+#include "base/PlainNumber.h"
+#include "base/WindowWatch.h"
 #include "edit/CharTable.h"
 #include "edit/TypeRange.h"
 #include "edit/ValueText.h"
@@ -23,25 +23,34 @@ const int kMaxReason = 510;
 const wchar_t kFailureFormat[] = L"SetWindowText函数错误，错误原因：%s";
 const wchar_t kUnknownFailure[] = L"调用SetWindowText函数时出现未知错误！";
 
+// Sets whose numbers are judged as they stand in the window, wrapped and cut off.
+bool IsUnsignedSet(VVEset set)
+{
+    return IsNumericSet(set) && set != VVE_SIGNED && set != VVE_FLOAT;
+}
+
 } // namespace
 
 void CSuperEdit::SetInputFloat(double def, double min, double max, int emptyValid, int enableTip, const wchar_t* tip)
 {
-    SetUpNumber(VVE_FLOAT, def, min, max, emptyValid);
+    if (!SetUpNumber(VVE_FLOAT, def, min, max, emptyValid))
+        return;
     SetEableTip(enableTip);
     SetTipText(tip);
 }
 
 void CSuperEdit::SetInputSInt(int def, int min, int max, int emptyValid, int enableTip, const wchar_t* tip)
 {
-    SetUpNumber(VVE_SIGNED, def, min, max, emptyValid);
+    if (!SetUpNumber(VVE_SIGNED, def, min, max, emptyValid))
+        return;
     SetEableTip(enableTip);
     SetTipText(tip);
 }
 
 void CSuperEdit::SetInputInt(int def, int min, int max, int emptyValid, int enableTip, const wchar_t* tip)
 {
-    SetUpNumber(VVE_DECIMAL, def, min, max, emptyValid);
+    if (!SetUpNumber(VVE_DECIMAL, def, min, max, emptyValid))
+        return;
     SetEableTip(enableTip);
     SetTipText(tip);
 }
@@ -63,8 +72,10 @@ void CSuperEdit::SetInputIntSim(int def, int emptyValid, int enableTip, const wc
 
 void CSuperEdit::SetAllValue(double def, double min, double max)
 {
-    m_minimum = (std::min)(min, max);
-    m_maximum = (std::max)(min, max);
+    m_minimum = min;
+    m_maximum = max;
+    if (m_minimum > m_maximum)
+        std::swap(m_minimum, m_maximum);
     // So written, a default that is no number is outside as well.
     const bool isInside = def >= m_minimum && def <= m_maximum;
     m_default = isInside ? def : m_minimum;
@@ -76,7 +87,7 @@ void CSuperEdit::SetAllValue(double def, double min, double max)
             SetWindowValue(m_default);
         return;
     }
-    if (CompareWithLimits(_wtof(text), m_minimum, m_maximum, m_precision) != 0)
+    if (CompareWithLimits(ReadPlainNumber(text), m_minimum, m_maximum, m_precision) != 0)
         SetWindowValue(m_default);
 }
 
@@ -114,23 +125,14 @@ double CSuperEdit::GetWindowValue() const
 int CSuperEdit::SetWindowValue(double value)
 {
     const CString text = TextOfValue(m_validSet, value);
-    int range = CheckRange(m_validSet, value);
-    switch (m_validSet)
-    {
-    case VVE_FLOAT:
+    const CWindowWatch watch(*this);
+    if (m_validSet == VVE_FLOAT)
         ShowFloat(text);
-        break;
-    case VVE_DECIMAL:
-    case VVE_HEX:
-    case VVE_OCTAL:
-    case VVE_BINARY:
+    else
         ShowText(text);
-        range = CheckRange();
-        break;
-    default:
-        ShowText(text);
-        break;
-    }
+    if (watch.IsGone())
+        return 0;
+    const int range = IsUnsignedSet(m_validSet) ? CheckRange() : CheckRange(m_validSet, value);
     return range == 0 && m_syntaxValid ? 1 : 0;
 }
 
@@ -139,9 +141,10 @@ int CSuperEdit::SetWindowValue(long value)
     if (m_validSet == VVE_FLOAT)
         return SetWindowValue(static_cast<double>(value));
     CString text;
+    const CWindowWatch watch(*this);
     if (TextOfInteger(m_validSet, value, text))
         ShowText(text);
-    return m_syntaxValid;
+    return watch.IsGone() ? 0 : m_syntaxValid;
 }
 
 int CSuperEdit::SetWindowValue(unsigned long value)
@@ -149,9 +152,10 @@ int CSuperEdit::SetWindowValue(unsigned long value)
     if (m_validSet == VVE_FLOAT)
         return SetWindowValue(static_cast<double>(value));
     CString text;
+    const CWindowWatch watch(*this);
     if (TextOfInteger(m_validSet, value, text))
         ShowText(text);
-    return m_syntaxValid;
+    return watch.IsGone() ? 0 : m_syntaxValid;
 }
 
 void CSuperEdit::ShowText(const wchar_t* text)
@@ -166,8 +170,8 @@ ValueRules CSuperEdit::ReadingRules() const
     return rules;
 }
 
-// Everything is checked from here on.
-void CSuperEdit::SetUpNumber(VVEset set, double def, double min, double max, int emptyValid)
+// Everything is checked from here on. False when the parent destroyed the window as it was told of the default.
+bool CSuperEdit::SetUpNumber(VVEset set, double def, double min, double max, int emptyValid)
 {
     SetValidChars(CharsOfSet(set));
     m_validSet = set;
@@ -176,7 +180,9 @@ void CSuperEdit::SetUpNumber(VVEset set, double def, double min, double max, int
     m_lengthCheck = 1;
     m_emptyValid = emptyValid;
     m_valueCheck = 1;
+    const CWindowWatch watch(*this);
     SetAllValue(def, min, max);
+    return !watch.IsGone();
 }
 
 void CSuperEdit::ShowFloat(const CString& text)

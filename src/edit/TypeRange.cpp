@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <cwchar>
 
+#include "base/PlainNumber.h"
+
 namespace
 {
 
@@ -61,8 +63,8 @@ int CheckOctal(const wchar_t* text)
 int CheckFloat(const wchar_t* text)
 {
     const wchar_t* const digits = text + wcsspn(text, kZeroAndBlanks);
-    wchar_t* rest = NULL;
-    const double value = wcstod(digits, &rest);
+    const wchar_t* rest = NULL;
+    const double value = ReadPlainNumber(digits, &rest);
     if (wcsstr(rest, L"INF") != NULL || !_finite(value))
         return 1;
     const bool isUnderflow = value == 0 && wcspbrk(digits, L"123456789") != NULL;

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cwchar>
 
+#include "base/PlainNumber.h"
 #include "edit/CharTable.h"
 #include "edit/TypeRange.h"
 
@@ -80,7 +81,7 @@ int JudgeInteger(const ValueRules& rules, const wchar_t* text)
 
 int ReadFloat(const ValueRules& rules, const wchar_t* text, double& value)
 {
-    value = wcstod(NotNull(text), NULL);
+    value = ReadPlainNumber(NotNull(text));
     return IsInRange(rules, VVE_FLOAT, text) && rules.isAccepted ? 1 : 0;
 }
 
@@ -156,14 +157,11 @@ int ReadValue(const ValueRules& rules, const wchar_t* text, unsigned long& value
 
 CString TextOfValue(VVEset set, double value)
 {
-    CString text;
     if (set == VVE_FLOAT)
-        text.Format(L"%0.8g", value);
-    else if (set == VVE_DECIMAL || HasOwnRadix(set))
-        text = DigitsOf(TruncateToUnsigned(value), RadixOf(set));
-    else
-        text = SignedText(TruncateToLong(value));
-    return text;
+        return PlainNumberText(L"%0.8g", value);
+    if (set == VVE_DECIMAL || HasOwnRadix(set))
+        return DigitsOf(TruncateToUnsigned(value), RadixOf(set));
+    return SignedText(TruncateToLong(value));
 }
 
 bool TextOfInteger(VVEset set, long value, CString& text)

@@ -1,8 +1,9 @@
 #include "list/SortText.h"
 
-#include <stdlib.h>
 #include <wchar.h>
 #include <wctype.h>
+
+#include "base/PlainNumber.h"
 
 namespace
 {
@@ -55,7 +56,7 @@ double NumberOfText(const wchar_t* text)
     // order.
     if ((!IsDigit(*at) && *at != L'.') || (at[0] == L'0' && towlower(at[1]) == L'x'))
         return 0;
-    return _wtof(text);
+    return ReadPlainNumber(text);
 }
 
 int CompareSortTexts(int mode, const wchar_t* first, const wchar_t* second)

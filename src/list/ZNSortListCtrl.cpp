@@ -435,7 +435,8 @@ bool CZNSortListCtrl::DrawHighlight(CDC& dc, int row, int column)
         return false;
     const CString text = GetItemText(row, column);
     CRect cell;
-    if (!::IsWindow(m_hWnd) || !GetSubItemRect(row, column, LVIR_LABEL, cell))
+    // Some versions of the list view have a label also for rows and columns that are not there.
+    if (!::IsWindow(m_hWnd) || !GetCellRect(row, column, cell) || !GetSubItemRect(row, column, LVIR_LABEL, cell))
         return false;
     CSavedDC saved(dc.m_hDC);
     saved.SelectFont(FontOf(*this));

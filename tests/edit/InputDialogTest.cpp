@@ -200,6 +200,12 @@ TEST_F(InputDialog, CanAskAgainAndBeginsWithTheDefault)
     EXPECT_STREQ(L"", m_value);
 }
 
+TEST_F(InputDialog, HasNoControlsWhileItIsClosed)
+{
+    EXPECT_TRUE(m_dialog.GetTipControl() == NULL);
+    EXPECT_TRUE(m_dialog.GetEditControl() == NULL);
+}
+
 TEST_F(InputDialog, TakesAnyText)
 {
     const std::wstring odd(L"% \x4E2D \xD83D \"a\"");

@@ -70,6 +70,18 @@ TEST_F(SuperEditParent, ParentIsNotAskedWhileValidationIsDisabled)
     EXPECT_TRUE(m_parent.askedStatus.empty());
 }
 
+TEST_F(SuperEditParent, WhetherTheParentAnsweredCountsUntilItIsAskedAgain)
+{
+    m_edit.SetCustomValidation(1);
+    m_edit.SetWindowText(L"x");
+    m_edit.CheckFloat();
+    EXPECT_EQ(1, m_edit.IsValidSyntax()) << "it did not answer, so nothing is wrong";
+    m_parent.answer = VVB_VALID;
+    m_edit.DoValidation(0);
+    m_edit.CheckFloat();
+    EXPECT_EQ(0, m_edit.IsValidSyntax());
+}
+
 TEST_F(SuperEditParent, CustomVerdictsHaveTheirColoursAndCanCountAsValid)
 {
     m_edit.SetCustomValidation(1);

@@ -1,6 +1,8 @@
 // The validating edit on a real parent: settings, character sets, keystrokes, edit commands, strange texts.
 #include "EditFixture.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -242,7 +244,42 @@ TEST_F(SuperEdit, EditCommandsWorkOnTheText)
     EXPECT_EQ(L"oneoneo", Text());
 }
 
+TEST_F(SuperEdit, SelectingEverythingWithoutAWindowLeavesTheFocusAlone)
+{
+    m_other.SetFocus();
+    TestedEdit edit;
+    edit.SelectAll();
+    EXPECT_EQ(m_other.m_hWnd, ::GetFocus());
+}
+
 // Long and strange texts.
+
+TEST_F(SuperEdit, PastingTextsAsLongAsTheLimitAndLongerStopsAtTheLimit)
+{
+    m_edit.SetValidCharSet(VVE_ALPHA, NULL);
+    m_edit.SetTextLenMinMax(0, 65535);
+    for (const size_t length : {65534u, 65535u, 65536u, 100000u})
+    {
+        m_edit.SetWindowText(L"");
+        m_edit.ReplaceSel(std::wstring(length, L'a').c_str());
+        EXPECT_EQ((std::min)(length, size_t(65535)), Text().size());
+        EXPECT_EQ(1, m_edit.IsValid());
+    }
+}
+
+TEST_F(SuperEdit, PastedLineFeedsAndUnpairedSurrogatesAreJudged)
+{
+    m_edit.SetValidCharSet(VVE_DECIMAL, NULL);
+    for (const wchar_t* text : {L"1\n2", L"1\r\n2", L"\xD83D", L"1\xDC00"})
+    {
+        m_edit.SetWindowText(text);
+        EXPECT_EQ(0, m_edit.IsValid()) << text;
+    }
+    m_edit.SetValidCharSet(VVE_ALL, NULL);
+    m_edit.SetWindowText(L"\xDC00\xD83D");
+    EXPECT_EQ(1, m_edit.IsValid());
+    EXPECT_EQ(L"\xDC00\xD83D", Text());
+}
 
 TEST_F(SuperEdit, ValidatesTextsBeyondTheLengthThatCanBeTyped)
 {

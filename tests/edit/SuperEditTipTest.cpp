@@ -202,6 +202,18 @@ TEST_F(SuperEditTip, LimitsAreShownOnlyWhereTipAndValueCheckAreOn)
     EXPECT_TRUE(m_edit.GetTipText().IsEmpty());
 }
 
+TEST_F(SuperEditTip, TextsOfAnyLengthDoNoHarm)
+{
+    const std::wstring text(70000, L'\xD83D');
+    m_edit.SetTipText(text.c_str());
+    Enter();
+    EXPECT_EQ(1, Tools());
+    m_edit.SetTipText((text + L"x").c_str());
+    EXPECT_EQ(70001, m_edit.GetTipText().GetLength());
+    m_edit.SetTipText(NULL);
+    EXPECT_EQ(0, Tools());
+}
+
 TEST_F(SuperEditTip, MessagesAreRelayedWhileTheTipIsEnabled)
 {
     const RelayCounter counter(m_tip);

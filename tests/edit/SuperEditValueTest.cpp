@@ -1,6 +1,9 @@
 ﻿// Typed values: limits, default, reading and writing, leaving the control.
 #include "EditFixture.h"
 
+#include <cmath>
+#include <limits>
+
 #include "MessageBoxAnswer.h"
 
 namespace
@@ -125,6 +128,30 @@ TEST_F(SuperEditValue, DefaultOutsideTheLimitsBecomesTheMinimum)
     ExpectAll(1, 1, 10);
     m_edit.SetInputInt(0, 1, 10, FALSE, FALSE, NULL);
     ExpectAll(1, 1, 10);
+}
+
+TEST_F(SuperEditValue, LimitsAndDefaultsThatAreNoNumberDoNotMixUpTheOthers)
+{
+    const double noNumber = std::numeric_limits<double>::quiet_NaN();
+    m_edit.SetInputFloat(noNumber, 1, 10, FALSE, FALSE, NULL);
+    ExpectAll(1, 1, 10);
+    EXPECT_EQ(L"1", Text());
+    m_edit.SetInputFloat(5, noNumber, 10, TRUE, FALSE, NULL);
+    const All all(m_edit);
+    EXPECT_TRUE(std::isnan(all.min));
+    EXPECT_EQ(10, all.max);
+}
+
+TEST_F(SuperEditValue, ValuesBeyondEveryTypeAreWrittenAndRefused)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const VVEset set : {VVE_ALL, VVE_SIGNED, VVE_FLOAT})
+    {
+        m_edit.SetValidCharSet(set, NULL);
+        EXPECT_EQ(0, m_edit.SetWindowValue(infinity)) << set;
+        EXPECT_EQ(0, m_edit.SetWindowValue(-infinity)) << set;
+        EXPECT_EQ(0, m_edit.SetWindowValue(std::numeric_limits<double>::quiet_NaN())) << set;
+    }
 }
 
 TEST_F(SuperEditValue, AllValuesAreHiddenWhileValuesAreNotChecked)

@@ -282,6 +282,8 @@ TEST_F(SuperEditVerdict, CheckFunctionsValidateAndGiveTheBrush)
     EXPECT_EQ(kRed, colour(m_edit.CheckBinary()));
     m_edit.SetWindowText(L"1.");
     EXPECT_EQ(Window(), colour(m_edit.CheckFloat())) << "by the syntax of numbers whatever the set";
+    m_edit.SetWindowText(L"4294967296");
+    EXPECT_EQ(kYellow, colour(m_edit.CheckFloat())) << "and by the range of the set";
 }
 
 TEST_F(SuperEditVerdict, WorksWithoutAWindow)

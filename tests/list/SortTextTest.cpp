@@ -1,6 +1,8 @@
 // How the texts of a column compare.
 #include "list/SortText.h"
 
+#include "CommaLocale.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -71,6 +73,14 @@ TEST(NumberOfText, WordsOfNewerRuntimesHaveNoValue)
     EXPECT_EQ(0, NumberOfText(L"-INFINITY"));
     EXPECT_EQ(0, NumberOfText(L"nan"));
     EXPECT_EQ(0, NumberOfText(L"0x10"));
+}
+
+TEST(NumberOfText, HasAPointWhereOthersHaveAComma)
+{
+    const CommaLocale comma;
+    EXPECT_EQ(1.5, NumberOfText(L"1.5"));
+    EXPECT_EQ(1, NumberOfText(L"1,5"));
+    EXPECT_EQ(1, CompareSortTexts(SORT_NUMBER_ASCENDING, L"1.5", L"1.25"));
 }
 
 TEST(CompareSortTexts, TextsIgnoreLetterCaseInBothDirections)

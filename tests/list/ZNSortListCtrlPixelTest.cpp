@@ -168,6 +168,35 @@ TEST_F(SortListPicture, APaintedSelectionFollowsTheFocus)
     EXPECT_EQ(RGB(0x31, 0x6A, 0xC5), m_canvas.Pixel(cell.right - 1, cell.top)) << "what a paint found is not kept";
 }
 
+TEST_F(SortListPicture, TheHighlightOfACellThatIsGoneDrawsNothing)
+{
+    FillColumn({L"a", L"b"});
+    m_list.SetCellHighlight(true, 5, 1);
+    EXPECT_NE(CDRF_SKIPDEFAULT, Ask(kCellStage, 5, 1));
+    m_list.SetCellHighlight(true, 0, 9);
+    EXPECT_NE(CDRF_SKIPDEFAULT, Ask(kCellStage, 0, 9));
+}
+
+TEST_F(SortListPicture, TheOwnerMayDeleteRowsWhileACellIsDrawn)
+{
+    for (const bool isColor : {false, true})
+    {
+        m_list.DeleteAllItems();
+        Fill({{L"a", L"Red"}, {L"b", L"Red"}});
+        m_list.SetItemText(1, 1, LPSTR_TEXTCALLBACK);
+        m_list.SetIsColorColumn(1, isColor);
+        m_list.SetCellHighlight(true, 1, 1);
+        NMLVCUSTOMDRAW notice = Notice(kCellStage, 1, 1);
+        m_owner.onNotify = [this](NMHDR& notification) {
+            if (notification.code == LVN_GETDISPINFO)
+                m_list.DeleteAllItems();
+        };
+        EXPECT_NE(CDRF_SKIPDEFAULT, Send(notice));
+        EXPECT_EQ(0, m_list.GetItemCount());
+        m_owner.onNotify = nullptr;
+    }
+}
+
 TEST_F(SortListPicture, OnlyTheHighlightedCellIsHighlighted)
 {
     FillColumn({L"a", L"b"});

@@ -448,6 +448,31 @@ TEST_F(SortList, TheOwnerMayDestroyTheListInAnyNotification)
     }
 }
 
+TEST_F(SortList, TheOwnerMayDeleteRowsWhenAHeadingIsClicked)
+{
+    FillColumn({L"b", L"c", L"a"});
+    m_owner.onNotify = [&](NMHDR& notification) {
+        if (notification.code == LVN_COLUMNCLICK)
+            m_list.DeleteAllItems();
+    };
+    ClickHeading(0);
+    EXPECT_EQ(0, m_list.GetItemCount());
+}
+
+TEST_F(SortList, StrangeTextsSort)
+{
+    FillColumn({L"b", L"\xD83D", L"a\nb", L"NaN", L"1e999", L"\x4E2D"});
+    for (int numeric = 0; numeric <= 1; ++numeric)
+    {
+        for (int order = 0; order <= 1; ++order)
+            m_list.SortColumn(0, numeric, order);
+    }
+    EXPECT_EQ(L"1e999", Column(0).back()) << "the only one with a value";
+    std::vector<DWORD_PTR> data = Data();
+    std::sort(data.begin(), data.end());
+    EXPECT_EQ((std::vector<DWORD_PTR>{1000, 1001, 1002, 1003, 1004, 1005}), data);
+}
+
 TEST_F(SortList, AnOwnerThatRefusesTheIndicesKeepsRowsAndItemData)
 {
     FillColumn({L"b", L"c", L"a"});
