@@ -115,20 +115,25 @@ TEST_F(RunningHooks, AHookMayDeleteItself)
 
 TEST_F(RunningHooks, ANewHookAtTheAddressOfADeletedOneStartsAnew)
 {
+    const HWND other = NewWindow();
     alignas(NotingHook) char place[sizeof(NotingHook)];
     NotingHook* at = new (place) NotingHook("deleted", m_log);
     at->HookWindow(m_window);
-    LRESULT answer = 1;
+    LRESULT answers[2] = {1, 1};
     at->onMessage = [&](UINT msg, WPARAM wParam, LPARAM lParam) -> LRESULT {
         at->~NotingHook();
         at = new (place) NotingHook("new", m_log);
-        answer = at->PassOn(msg, wParam, lParam); // was never attached
+        answers[0] = at->PassOn(msg, wParam, lParam); // was never attached
+        at->HookWindow(other);
+        answers[1] = at->PassOn(msg, 8, 9); // has no place in the chain of the deleted one
         return 6;
     };
     EXPECT_EQ(6, Send());
-    EXPECT_EQ(0, answer);
-    EXPECT_EQ((Names{"deleted"}), m_log);
+    EXPECT_EQ(0, answers[0]);
+    EXPECT_EQ(AnswerTo(8, 9), answers[1]);
+    EXPECT_EQ((Names{"deleted", "window"}), m_log);
     at->~NotingHook();
+    ::DestroyWindow(other);
 }
 
 TEST_F(RunningHooks, ANewHookSeesTheNextMessage)

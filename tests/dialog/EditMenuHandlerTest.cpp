@@ -335,6 +335,12 @@ TEST_F(EditMenu, ItemsAreGreyWhereTheyCanDoNothing)
         {"plain text on the clipboard", L"abc", 1, 1, CF_TEXT, {ID_EDIT_PASTE, all}},
         {"plain text for an empty control", L"", 0, 0, CF_TEXT, {ID_EDIT_PASTE}},
         {"no text on the clipboard", L"abc", 1, 1, CF_DSPBITMAP, {all}},
+        {"text that is not plain on the clipboard",
+         L"abc",
+         1,
+         1,
+         ::RegisterClipboardFormatW(L"Rich Text Format"),
+         {all}},
     };
     for (const UpdateRow& row : rows)
     {
