@@ -7,6 +7,7 @@
 #include "tip/XTButtonToolTipWnd.h"
 
 #include <climits>
+#include <string>
 
 namespace
 {
@@ -35,6 +36,15 @@ protected:
         dc.DrawText(text, -1, &rect, DT_CALCRECT | DT_WORDBREAK);
         dc.SelectObject(before);
         return rect.Size();
+    }
+
+    int Width(const std::wstring& text)
+    {
+        CDC& dc = *CDC::FromHandle(m_canvas.Dc());
+        CFont* const before = dc.SelectObject(&m_font);
+        const int width = dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx;
+        dc.SelectObject(before);
+        return width;
     }
 
     // Everything that is written, without the frame.
@@ -100,6 +110,17 @@ TEST_F(ButtonTipPicture, ALongTextWrapsInsideTheMarginsAndStaysCentred)
     EXPECT_GE(ink.top, (74 - size.cy) / 2);
     EXPECT_LE(ink.bottom, (74 - size.cy) / 2 + size.cy);
     EXPECT_GT(ink.Height(), Measure(L"HHH").cy);
+}
+
+TEST_F(ButtonTipPicture, ATextThatFitsOnlyWithoutTheMarginsWraps)
+{
+    // Words that together are wider than the tip without its margins, but not wider than the tip.
+    std::wstring text = L"HHH ";
+    while (Width(text) <= 114)
+        text += L'i';
+    ASSERT_LE(Width(text), 120) << "the letter is too wide for this test";
+    Draw(text.c_str());
+    EXPECT_GT(Ink().Height(), Measure(L"HHH").cy);
 }
 
 TEST_F(ButtonTipPicture, TheTextRectangleIsCentredInTheTip)

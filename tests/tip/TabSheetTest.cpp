@@ -308,9 +308,9 @@ TEST_F(TabSheet, LeavesNoObjectBehind)
     };
     cycle();
     const size_t gdiObjects = CountGdiObjects();
-    const int userObject = NextUserObject();
+    const int userObject = UserObjectMark();
     for (int i = 0; i < 20; ++i)
         cycle();
     EXPECT_EQ(gdiObjects, CountGdiObjects());
-    EXPECT_LT(NextUserObject(), userObject + 40) << "less than one for each window of each cycle";
+    EXPECT_LT(UserObjectMark(), userObject + 20) << "less than one for each cycle";
 }

@@ -8,6 +8,7 @@
 #include "DibCanvas.h"
 #include "Wait.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -56,16 +57,21 @@ inline std::unique_ptr<DibCanvas> Picture(HWND window)
     return canvas;
 }
 
-// The index of the next user object (window, hook, menu) in the table of the process: it grows by at least one for each
-// object that is left behind, and varies a little with the order in which others are given back.
-inline int NextUserObject()
+// The highest index that is reached in the table of user objects (windows, hooks, menus) when more objects are made
+// than the table has gaps: it grows by at least one for each object that is left behind.
+inline int UserObjectMark()
 {
-    const HHOOK probe = ::SetWindowsHookExW(
-        WH_KEYBOARD,
-        [](int code, WPARAM wParam, LPARAM lParam) { return ::CallNextHookEx(NULL, code, wParam, lParam); }, NULL,
-        ::GetCurrentThreadId());
-    ::UnhookWindowsHookEx(probe);
-    return LOWORD(reinterpret_cast<UINT_PTR>(probe));
+    const int more = 512;
+    std::vector<HMENU> probes;
+    int highest = 0;
+    for (int i = 0; i < more; ++i)
+    {
+        probes.push_back(::CreateMenu());
+        highest = std::max<int>(highest, LOWORD(reinterpret_cast<UINT_PTR>(probes.back())));
+    }
+    for (const HMENU probe : probes)
+        ::DestroyMenu(probe);
+    return highest;
 }
 
 // Dispatches as the framework does, so that windows see messages before they are dispatched.

@@ -284,9 +284,9 @@ TEST_F(ToolTipButton, LeavesNoObjectBehind)
     };
     cycle();
     const size_t gdiObjects = CountGdiObjects();
-    const int userObject = NextUserObject();
-    for (int i = 0; i < 100; ++i)
+    const int userObject = UserObjectMark();
+    for (int i = 0; i < 30; ++i)
         cycle();
     EXPECT_EQ(gdiObjects, CountGdiObjects());
-    EXPECT_LT(NextUserObject(), userObject + 100) << "less than one for each cycle";
+    EXPECT_LT(UserObjectMark(), userObject + 30) << "less than one for each cycle";
 }
