@@ -69,10 +69,10 @@
 #define IDC_RICH_EDIT_SIZE 1809
 #define IDC_RICH_EDIT_COLOR 1810
 
-// Mouse-following tip: 1800 to 1849
-#define IDD_FOLLOW_TIP_PAGE 1800
-#define IDC_FOLLOW_TIP_AREA 1801
-#define IDC_FOLLOW_TIP_SHOW 1802
+// Mouse-following tip: 2000 to 2049
+#define IDD_FOLLOW_TIP_PAGE 2000
+#define IDC_FOLLOW_TIP_AREA 2001
+#define IDC_FOLLOW_TIP_SHOW 2002
 
 // Button with a tip: 1850 to 1899
 #define IDD_TIP_BUTTON_PAGE 1850
