@@ -2,7 +2,9 @@
 
 #include "afx/app/Resource.h"
 #include "afx/app/WinApp.h"
+#include "afx/dialog/DialogProcedure.h"
 #include "afx/dialog/DialogTemplateLock.h"
+#include "afx/dialog/DisabledWindow.h"
 #include "afx/gdi/GdiObject.h"
 #include "afx/wnd/MessageMacros.h"
 
@@ -21,8 +23,8 @@ const int CreationFailed = -1;
 const UINT FirstCommandId = 0x8000; // lower ids belong to controls
 const UINT FirstSystemCommand = 0xF000;
 const size_t ClassNameSize = 32;
+} // namespace
 
-// The procedure behind the dialog's class: it only brings WM_INITDIALOG to the object, which handles all the rest.
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM, LPARAM)
 {
     if (message != WM_INITDIALOG)
@@ -30,36 +32,6 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM, LPARAM)
     CDialog* const dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(window));
     return dialog == nullptr || dialog->OnInitDialog();
 }
-
-// A window that takes no input while a modal dialog runs above it.
-class DisabledWindow
-{
-public:
-    explicit DisabledWindow(HWND window) : m_window(IsDisablable(window) ? window : nullptr)
-    {
-        if (m_window != nullptr)
-            ::EnableWindow(m_window, FALSE);
-    }
-    ~DisabledWindow() { Restore(); }
-    DisabledWindow(const DisabledWindow&) = delete;
-    DisabledWindow& operator=(const DisabledWindow&) = delete;
-
-    void Restore()
-    {
-        if (m_window != nullptr)
-            ::EnableWindow(m_window, TRUE);
-        m_window = nullptr;
-    }
-
-private:
-    static bool IsDisablable(HWND window)
-    {
-        return window != nullptr && window != ::GetDesktopWindow() && ::IsWindowEnabled(window);
-    }
-
-    HWND m_window;
-};
-} // namespace
 
 CDialog::CDialog() = default;
 
