@@ -1,4 +1,4 @@
-#include <afxwin.h>
+#include <afxdisp.h>
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
@@ -257,4 +257,5 @@ void AFXAPI AfxWinTerm()
         state->m_hHookOldCbtFilter = nullptr;
     }
     AfxUnregisterModuleClasses(AfxGetInstanceHandle());
+    AfxOleTerm();
 }

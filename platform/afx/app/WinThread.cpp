@@ -1,4 +1,4 @@
-#include <afxwin.h>
+#include <afxdisp.h>
 #include <afxpriv.h>
 
 #include <process.h>
@@ -98,6 +98,7 @@ unsigned __stdcall CWinThread::ThreadEntry(void* thread)
     CWinThread* const object = static_cast<CWinThread*>(thread);
     AfxGetThreadState()->m_pCurrentWinThread = object;
     const DWORD result = object->RunThread();
+    AfxOleTerm();
     LeaveThread(TRUE);
     return result;
 }

@@ -1,0 +1,6 @@
+// OLE: its start in a program.
+#pragma once
+
+#include <afxwin.h>
+
+#include "afx/html/OleInit.h"

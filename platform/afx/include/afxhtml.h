@@ -1,0 +1,6 @@
+// The view that shows web pages.
+#pragma once
+
+#include <afxext.h>
+
+#include "afx/html/HtmlView.h"

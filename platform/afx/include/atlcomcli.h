@@ -1,0 +1,6 @@
+// Pointers to COM interfaces.
+#pragma once
+
+#include <afx.h>
+
+#include "afx/core/ComPtr.h"
