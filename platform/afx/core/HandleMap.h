@@ -1,6 +1,6 @@
 // CHandleMap: which object stands for a system handle (window, menu, GDI object, image list).
 //
-//   CHandleMap<CMenu, HMENU> map(&CMenu::MakeTemporary, &CMenu::LetGo);
+//   CHandleMap<CMenu, HMENU> map(&CMenu::MakeTemporary, &CMenu::SetHandle);
 //   map.SetPermanent(handle, menu);          // Attach, Create: the object belongs to its creator
 //   CMenu* menu = map.FromHandle(handle);    // permanent object, otherwise a temporary one
 //   map.DeleteTemp();                        // at idle time: temporary objects live until here
@@ -15,12 +15,16 @@ template<class OBJECT, class HANDLE_TYPE>
 class CHandleMap
 {
 public:
-    // makeTemporary: a new object that holds the handle without owning it. letGo: clears the handle in such an object,
-    // so that its destructor, which runs right after, leaves the system object alone.
+    // makeTemporary: a new object that holds the handle without owning it. setHandle: puts a handle into such an
+    // object; null before it is deleted, so that its destructor leaves the system object alone.
     typedef OBJECT* (*MakeTemporary)(HANDLE_TYPE handle);
-    typedef void (*LetGo)(OBJECT* object);
+    typedef void (*SetHandle)(OBJECT* object, HANDLE_TYPE handle);
 
-    CHandleMap(MakeTemporary makeTemporary, LetGo letGo) : m_makeTemporary(makeTemporary), m_letGo(letGo) {}
+    CHandleMap(MakeTemporary makeTemporary, SetHandle setHandle)
+        : m_makeTemporary(makeTemporary), m_setHandle(setHandle)
+    {
+    }
+
     ~CHandleMap() { DeleteTemp(); }
     CHandleMap(const CHandleMap&) = delete;
     CHandleMap& operator=(const CHandleMap&) = delete;
@@ -28,15 +32,16 @@ public:
     // The permanent object of the handle, otherwise its temporary one, made on demand; null for a null handle.
     OBJECT* FromHandle(HANDLE_TYPE handle)
     {
-        OBJECT* object = LookupPermanent(handle);
-        if (object == nullptr)
-            object = LookupTemporary(handle);
-        if (object == nullptr && handle != HANDLE_TYPE())
-        {
-            object = m_makeTemporary(handle);
-            m_temporary[handle] = object;
-        }
-        return object;
+        OBJECT* const permanent = LookupPermanent(handle);
+        if (permanent != nullptr || handle == HANDLE_TYPE())
+            return permanent;
+        OBJECT*& temporary = m_temporary[handle];
+        // A caller may have deleted the system object or detached it; the system uses the number of a handle again.
+        if (temporary != nullptr)
+            m_setHandle(temporary, handle);
+        else
+            temporary = m_makeTemporary(handle);
+        return temporary;
     }
 
     OBJECT* LookupPermanent(HANDLE_TYPE handle) const { return Lookup(m_permanent, handle); }
@@ -54,7 +59,7 @@ public:
         doomed.swap(m_temporary);
         for (const auto& entry : doomed)
         {
-            m_letGo(entry.second);
+            m_setHandle(entry.second, HANDLE_TYPE());
             delete entry.second;
         }
     }
@@ -72,7 +77,7 @@ private:
     }
 
     MakeTemporary m_makeTemporary;
-    LetGo m_letGo;
+    SetHandle m_setHandle;
     Objects m_permanent;
     Objects m_temporary;
 };

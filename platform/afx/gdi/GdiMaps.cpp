@@ -12,9 +12,9 @@ OBJECT* MakeTemporary(HGDIOBJ handle)
     return object;
 }
 
-void LetGoOfObject(CGdiObject* object)
+void SetObjectHandle(CGdiObject* object, HGDIOBJ handle)
 {
-    object->m_hObject = NULL;
+    object->m_hObject = handle;
 }
 
 CDC* MakeTemporaryDC(HDC handle)
@@ -25,10 +25,10 @@ CDC* MakeTemporaryDC(HDC handle)
     return dc;
 }
 
-void LetGoOfDC(CDC* dc)
+void SetDCHandle(CDC* dc, HDC handle)
 {
-    dc->m_hDC = NULL;
-    dc->m_hAttribDC = NULL;
+    dc->m_hDC = handle;
+    dc->m_hAttribDC = handle;
 }
 
 CImageList* MakeTemporaryImageList(HIMAGELIST handle)
@@ -38,28 +38,29 @@ CImageList* MakeTemporaryImageList(HIMAGELIST handle)
     return images;
 }
 
-void LetGoOfImageList(CImageList* images)
+void SetImageListHandle(CImageList* images, HIMAGELIST handle)
 {
-    images->m_hImageList = NULL;
+    images->m_hImageList = handle;
 }
 } // namespace
 
 CHandleMap<CGdiObject, HGDIOBJ>& AfxGdiObjectMap()
 {
     static CPerThread<CHandleMap<CGdiObject, HGDIOBJ>> maps;
-    return maps.Get([] { return new CHandleMap<CGdiObject, HGDIOBJ>(&MakeTemporary<CGdiObject>, &LetGoOfObject); });
+    return maps.Get([] { return new CHandleMap<CGdiObject, HGDIOBJ>(&MakeTemporary<CGdiObject>, &SetObjectHandle); });
 }
 
 CHandleMap<CDC, HDC>& AfxDCMap()
 {
     static CPerThread<CHandleMap<CDC, HDC>> maps;
-    return maps.Get([] { return new CHandleMap<CDC, HDC>(&MakeTemporaryDC, &LetGoOfDC); });
+    return maps.Get([] { return new CHandleMap<CDC, HDC>(&MakeTemporaryDC, &SetDCHandle); });
 }
 
 CHandleMap<CImageList, HIMAGELIST>& AfxImageListMap()
 {
     static CPerThread<CHandleMap<CImageList, HIMAGELIST>> maps;
-    return maps.Get([] { return new CHandleMap<CImageList, HIMAGELIST>(&MakeTemporaryImageList, &LetGoOfImageList); });
+    return maps.Get(
+        [] { return new CHandleMap<CImageList, HIMAGELIST>(&MakeTemporaryImageList, &SetImageListHandle); });
 }
 
 void AfxDeleteTempGdiMaps()

@@ -19,15 +19,15 @@ CMenu* MakeTemporaryMenu(HMENU handle)
     return menu;
 }
 
-void LetGoOfMenu(CMenu* menu)
+void SetMenuHandle(CMenu* menu, HMENU handle)
 {
-    menu->m_hMenu = nullptr;
+    menu->m_hMenu = handle;
 }
 
 MenuMap& ThreadMenuMap()
 {
     static CPerThread<MenuMap> maps;
-    return maps.Get([] { return new MenuMap(&MakeTemporaryMenu, &LetGoOfMenu); });
+    return maps.Get([] { return new MenuMap(&MakeTemporaryMenu, &SetMenuHandle); });
 }
 
 // A bitmap stands in a menu in the place of the text.

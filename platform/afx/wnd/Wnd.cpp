@@ -17,9 +17,9 @@ CWnd* MakeTemporary(HWND window)
     return new CWnd(window);
 }
 
-void LetGo(CWnd* object)
+void SetHandle(CWnd* object, HWND window)
 {
-    object->m_hWnd = nullptr;
+    object->m_hWnd = window;
 }
 
 bool IsPlace(const CWnd* object)
@@ -32,7 +32,7 @@ bool IsPlace(const CWnd* object)
 CHandleMap<CWnd, HWND>& AfxWndMap()
 {
     static CPerThread<CHandleMap<CWnd, HWND>> maps;
-    return maps.Get([] { return new CHandleMap<CWnd, HWND>(&MakeTemporary, &LetGo); });
+    return maps.Get([] { return new CHandleMap<CWnd, HWND>(&MakeTemporary, &SetHandle); });
 }
 
 CWnd::CWnd() {}

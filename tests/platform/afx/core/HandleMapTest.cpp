@@ -15,7 +15,7 @@ struct Wrapper
     }
 
     static Wrapper* MakeTemporary(void* handle) { return new Wrapper(handle); }
-    static void LetGo(Wrapper* wrapper) { wrapper->handle = nullptr; }
+    static void SetHandle(Wrapper* wrapper, void* handle) { wrapper->handle = handle; }
 
     void* handle;
     static int alive;
@@ -33,14 +33,14 @@ int second = 0;
 
 TEST(HandleMap, ANullHandleHasNoObject)
 {
-    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::LetGo);
+    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::SetHandle);
     EXPECT_EQ(nullptr, map.FromHandle(nullptr));
     EXPECT_EQ(0u, map.GetTemporaryCount());
 }
 
 TEST(HandleMap, MakesOneTemporaryObjectAHandle)
 {
-    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::LetGo);
+    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::SetHandle);
     Wrapper* object = map.FromHandle(&first);
     EXPECT_EQ(&first, object->handle);
     EXPECT_EQ(object, map.FromHandle(&first));
@@ -49,10 +49,17 @@ TEST(HandleMap, MakesOneTemporaryObjectAHandle)
     EXPECT_EQ(object, map.LookupTemporary(&first));
 }
 
+TEST(HandleMap, ATemporaryObjectThatLostItsHandleHasItAgain)
+{
+    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::SetHandle);
+    map.FromHandle(&first)->handle = nullptr; // as when its system object is deleted
+    EXPECT_EQ(&first, map.FromHandle(&first)->handle);
+}
+
 TEST(HandleMap, DeletesTemporaryObjectsWithoutTheirHandles)
 {
     Wrapper::destroyedHandles = 0;
-    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::LetGo);
+    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::SetHandle);
     map.FromHandle(&first);
     map.FromHandle(&second);
     map.DeleteTemp();
@@ -64,7 +71,7 @@ TEST(HandleMap, DeletesTemporaryObjectsWithoutTheirHandles)
 TEST(HandleMap, PermanentObjectsComeFirstAndStay)
 {
     Wrapper permanent(&first);
-    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::LetGo);
+    WrapperMap map(&Wrapper::MakeTemporary, &Wrapper::SetHandle);
     Wrapper* temporary = map.FromHandle(&first);
     map.SetPermanent(&first, &permanent);
     EXPECT_EQ(&permanent, map.FromHandle(&first));
