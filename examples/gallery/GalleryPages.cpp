@@ -3,11 +3,13 @@
 #include "pages/ComboButtonPage.h"
 #include "pages/EditableListPage.h"
 #include "pages/CheckTreePage.h"
+#include "pages/HtmlPage.h"
 #include "pages/IconTreePage.h"
 #include "pages/FollowTipPage.h"
 #include "pages/InputDialogPage.h"
 #include "pages/RichEditPage.h"
 #include "pages/LabelPage.h"
+#include "pages/PropertySheetPage.h"
 #include "pages/SortListPage.h"
 #include "pages/SuperEditPage.h"
 #include "pages/TreeCommandsPage.h"
@@ -37,6 +39,8 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CIconTreePage>(L"icon-tree", L"树", L"图标树"),
         Page<CTreeCommandsPage>(L"tree-commands", L"树", L"条目树与命令"),
         Page<CComboButtonPage>(L"combo-button", L"按钮", L"组合按钮"),
+        Page<CPropertySheetPage>(L"property-sheet", L"对话框", L"属性表"),
+        Page<CHtmlPage>(L"html", L"对话框", L"浏览器控件"),
         Page<CFollowTipPage>(L"follow-tip", L"提示与显示", L"随鼠标的提示"),
         Page<CTipButtonPage>(L"tip-button", L"提示与显示", L"带提示的按钮"),
         Page<CLabelPage>(L"label", L"提示与显示", L"上下标文字"),

@@ -1,4 +1,4 @@
-// CNoHelpPropertySheet: a property sheet without a Help button. Its Apply button is always enabled and applies every
+﻿// CNoHelpPropertySheet: a property sheet without a Help button. Its Apply button is always enabled and applies every
 // page at once, or it is not shown at all; all pages are created when the sheet opens.
 //
 //     class COptionsSheet : public CNoHelpPropertySheet

@@ -1,4 +1,4 @@
-// A property sheet without Help over an owner, with three recording pages, that runs a piece of the test once it is
+﻿// A property sheet without Help over an owner, with three recording pages, that runs a piece of the test once it is
 // shown and idle.
 #pragma once
 

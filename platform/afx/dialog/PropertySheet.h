@@ -1,6 +1,6 @@
 // CPropertySheet: the tabbed dialog of the system (or a wizard), modal (DoModal) or modeless (Create).
 //
-//     CPropertySheet sheet(L"选项", this);
+//     CPropertySheet sheet(L"Options", this);
 //     sheet.AddPage(&m_general);                        // pages stay the caller's
 //     sheet.AddPage(&m_colors);
 //     if (sheet.DoModal() == IDOK) ...
