@@ -1,5 +1,6 @@
 // The editable list under a real mouse and keyboard.
 #include "EditableListFixture.h"
+#include "RealMouse.h"
 
 namespace
 {
@@ -199,7 +200,7 @@ TEST_F(EditableListInput, WheelScrollsAndEndsTheEdit)
     List().SetFocus();
     const CPoint beside = OnScreen(List().m_hWnd, CPoint(kColumns * kColumnWidth + 20, 100));
     ::SetCursorPos(beside.x, beside.y);
-    Mouse(MOUSEEVENTF_WHEEL, -WHEEL_DELTA);
+    SendMouse(beside, MOUSEEVENTF_WHEEL, -WHEEL_DELTA);
     EXPECT_TRUE(Pump([this] { return CountEditors() == 0; }));
     EXPECT_TRUE(Pump([this] { return List().GetTopIndex() > 0; }));
     EXPECT_TRUE(IsNoted({L"end 1,1 r1c1"}));

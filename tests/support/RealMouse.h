@@ -11,13 +11,15 @@
 
 #include "Wait.h"
 
-inline void SendMouse(CPoint point, DWORD flags)
+// `wheel`: by how much MOUSEEVENTF_WHEEL turns it.
+inline void SendMouse(CPoint point, DWORD flags, int wheel = 0)
 {
     constexpr int units = 65536; // across the screen, each way
     INPUT input = {};
     input.type = INPUT_MOUSE;
     input.mi.dx = (point.x * units + units / 2) / ::GetSystemMetrics(SM_CXSCREEN);
     input.mi.dy = (point.y * units + units / 2) / ::GetSystemMetrics(SM_CYSCREEN);
+    input.mi.mouseData = static_cast<DWORD>(wheel);
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
     ::SendInput(1, &input, sizeof(input));
 }
