@@ -63,6 +63,7 @@ void MeasureSuperEdit(Report& report);
 void MeasureResize(Report& report);
 void MeasureFollowTip(Report& report);
 void MeasureLabel(Report& report);
+void MeasureSlide(Report& report);
 void MeasureComboMenu(Report& report);
 void MeasureTrees(Report& report);
 void MeasureRichEdit(Report& report);

@@ -41,11 +41,17 @@ struct Subject
 };
 
 const Subject kSubjects[] = {
-    {"message-store", bench::MeasureMessageStore}, {"message-viewer", bench::MeasureMessageViewer},
-    {"sort-list", bench::MeasureSortList},         {"editable-list", bench::MeasureEditableList},
-    {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
-    {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
-    {"combo-menu", bench::MeasureComboMenu},       {"trees", bench::MeasureTrees},
+    {"message-store", bench::MeasureMessageStore},
+    {"message-viewer", bench::MeasureMessageViewer},
+    {"sort-list", bench::MeasureSortList},
+    {"editable-list", bench::MeasureEditableList},
+    {"super-edit", bench::MeasureSuperEdit},
+    {"resize", bench::MeasureResize},
+    {"follow-tip", bench::MeasureFollowTip},
+    {"label", bench::MeasureLabel},
+    {"slide", bench::MeasureSlide},
+    {"combo-menu", bench::MeasureComboMenu},
+    {"trees", bench::MeasureTrees},
     {"rich-edit", bench::MeasureRichEdit},
 };
 

@@ -13,6 +13,7 @@
 #include "list/ZNSortListCtrl.h"
 #include "msg/KTMsgWnd.h"
 #include "tip/FollowMouseTipWnd.h"
+#include "tip/SlideCtrl.h"
 #include "tip/TabSheet.h"
 #include "tip/ToolTipXTButton.h"
 #include "tip/XTButtonToolTipWnd.h"

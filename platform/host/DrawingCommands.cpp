@@ -1,11 +1,13 @@
-﻿// OPEN NEW CLOSE ZOOM PAN SELECT ERASE: commands on drawings.
+﻿// OPEN NEW CLOSE ZOOM PAN SELECT ERASE MSLIDE: commands on drawings.
 #include "host/DrawingFrame.h"
 #include "host/DrawingView.h"
+#include "host/FilePrompt.h"
 #include "host/HostCommands.h"
 #include "host/MainFrame.h"
 #include "host/PointText.h"
+#include "host/SlideRecorder.h"
 
-#include <afxdlgs.h>
+#include <shlwapi.h>
 
 namespace arxhost
 {
@@ -18,6 +20,7 @@ const wchar_t closeUsage[] = L"CLOSE（关闭）：关闭当前图形";
 const wchar_t zoomUsage[] = L"ZOOM（缩放） E | IN | OUT | 倍数x | W x1,y1 x2,y2：缩放视图";
 const wchar_t panUsage[] = L"PAN（平移） dx,dy：按图形单位平移视图";
 const wchar_t selectUsage[] = L"SELECT（选择） ALL | NONE | x,y | W x1,y1 x2,y2 | C x1,y1 x2,y2：选择对象";
+const wchar_t slideUsage[] = L"MSLIDE（制作幻灯片） 文件.sld：把当前视图保存为幻灯片";
 const wchar_t eraseUsage[] = L"ERASE（删除） [选择方式]：删除选中的对象";
 
 const double zoomStep = 2;
@@ -39,18 +42,10 @@ arxgi::Box2 NeedBox(const Words& words, std::size_t index, const wchar_t* usage)
     return arxgi::Box2(first.x, first.y, second.x, second.y);
 }
 
-std::wstring AskForDrawing(MainFrame& frame)
-{
-    CFileDialog dialog(TRUE, L"dxf", NULL, OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR,
-                       L"图形文件 (*.dxf)|*.dxf|所有文件 (*.*)|*.*||", &frame);
-    return dialog.DoModal() == IDOK ? std::wstring(dialog.GetPathName().GetString()) : std::wstring();
-}
-
 void Open(MainFrame& frame, const Words& words)
 {
-    if (words.empty() && frame.IsUnattended())
-        NeedWord(words, 0, openUsage);
-    const std::wstring path = words.empty() ? AskForDrawing(frame) : words[0];
+    const wchar_t filter[] = L"图形文件 (*.dxf)|*.dxf|所有文件 (*.*)|*.*||";
+    const std::wstring path = AskForFile(frame, words, FilePrompt::Open, L"dxf", filter, openUsage);
     if (!path.empty())
         frame.OpenDrawing(path);
 }
@@ -141,6 +136,40 @@ void EraseObjects(MainFrame& frame, const Words& words)
     frame.Command().Print(L"删除 " + std::to_wstring(Erase(ids)) + L" 个对象\n");
 }
 
+bool WriteBytes(const std::wstring& path, const std::string& bytes)
+{
+    CFile file;
+    if (!file.Open(path.c_str(), CFile::modeCreate | CFile::modeWrite))
+        return false;
+    try
+    {
+        file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
+        file.Close();
+        return true;
+    }
+    catch (CFileException* e) // the disk is full
+    {
+        e->Delete();
+        return false;
+    }
+}
+
+void MakeSlide(MainFrame& frame, const Words& words)
+{
+    DrawingView& view = frame.NeedView();
+    std::wstring path = AskForFile(frame, words, FilePrompt::Save, L"sld", L"幻灯片 (*.sld)|*.sld||", slideUsage);
+    if (path.empty())
+        return;
+    if (*PathFindExtensionW(path.c_str()) == L'\0')
+        path += L".sld";
+    CRect client;
+    view.GetClientRect(&client);
+    SlideRecorder recorder(view.Transform(), client.Width(), client.Height());
+    if (!WriteBytes(path, recorder.Record(view.List())))
+        throw CommandFailure{L"无法写入幻灯片“" + path + L"”。"};
+    frame.Command().Print(L"幻灯片已保存：" + path + L"\n");
+}
+
 } // namespace
 
 std::vector<HostCommand> DrawingCommands()
@@ -153,6 +182,7 @@ std::vector<HostCommand> DrawingCommands()
         {L"PAN,P,平移", panUsage, &Pan},
         {L"SELECT,选择", selectUsage, &Select},
         {L"ERASE,E,删除", eraseUsage, &EraseObjects},
+        {L"MSLIDE,制作幻灯片", slideUsage, &MakeSlide},
     };
 }
 

@@ -40,18 +40,22 @@ LONG Rounded(double value)
     return static_cast<LONG>(std::lround(std::clamp(value, -farPixel, farPixel)));
 }
 
-HFONT TextFont(int height, int tenthsOfDegree)
+} // namespace
+
+HFONT CreateTextFont(const arxgi::Point2* corners, const ViewTransform& view)
 {
+    const double height = std::hypot(corners[3].x - corners[0].x, corners[3].y - corners[0].y) / view.UnitsPerPixel();
+    if (height < legibleHeight || height > farPixel)
+        return nullptr;
+    const double angle = std::atan2(corners[1].y - corners[0].y, corners[1].x - corners[0].x);
     LOGFONTW font{};
-    font.lfHeight = -height;
-    font.lfEscapement = font.lfOrientation = tenthsOfDegree;
+    font.lfHeight = -Rounded(height * emPerCapital);
+    font.lfEscapement = font.lfOrientation = Rounded(angle * tenthsPerRadian);
     font.lfCharSet = DEFAULT_CHARSET;
     font.lfQuality = ANTIALIASED_QUALITY;
     std::wcsncpy(font.lfFaceName, L"宋体", LF_FACESIZE - 1);
     return CreateFontIndirectW(&font);
 }
-
-} // namespace
 
 DrawingPainter::DrawingPainter(HDC dc, const ViewTransform& view) : m_dc(dc), m_view(view)
 {
@@ -185,14 +189,12 @@ void DrawingPainter::PaintArea(const arxgi::DisplayList& list, const arxgi::Disp
 void DrawingPainter::PaintText(const arxgi::DisplayList& list, const arxgi::DisplayPrimitive& primitive)
 {
     const arxgi::Point2* corners = list.points().data() + primitive.firstPoint;
-    const double height = std::hypot(corners[3].x - corners[0].x, corners[3].y - corners[0].y) / m_view.UnitsPerPixel();
-    if (height < legibleHeight || height > farPixel)
+    const arxui::GdiObject<HFONT> font(CreateTextFont(corners, m_view));
+    if (!font)
     {
         PaintChain(corners, 2);
         return;
     }
-    const double angle = std::atan2(corners[1].y - corners[0].y, corners[1].x - corners[0].x);
-    const arxui::GdiObject<HFONT> font(TextFont(Rounded(height * emPerCapital), Rounded(angle * tenthsPerRadian)));
     const arxui::SelectGuard selectFont(m_dc, font.Get());
     const std::wstring& text = list.texts()[primitive.text];
     const POINT base = Pixel(corners[0]);

@@ -12,6 +12,10 @@
 namespace arxhost
 {
 
+// The font that a text of the display list is shown in, given the corners of its parallelogram; the caller deletes it.
+// Null for a text too small (or far too large) to be legible: its base line stands for it.
+HFONT CreateTextFont(const arxgi::Point2* corners, const ViewTransform& view);
+
 class DrawingPainter
 {
 public:

@@ -1,11 +1,10 @@
 ﻿// ARX SCRIPT DELAY SHOT HELP QUIT: commands on the program.
+#include "host/FilePrompt.h"
 #include "host/FrameShot.h"
 #include "host/HostCommands.h"
 #include "host/MainFrame.h"
 
 #include "rxregsvc.h"
-
-#include <afxdlgs.h>
 
 namespace arxhost
 {
@@ -20,18 +19,6 @@ const wchar_t helpUsage[] = L"HELP（帮助、?）：命令列表";
 const wchar_t quitUsage[] = L"QUIT（退出）：结束程序";
 
 const int longestDelay = 60000;
-
-std::wstring AskForFile(MainFrame& frame, const Words& words, bool open, const wchar_t* extension,
-                        const wchar_t* filter, const wchar_t* usage)
-{
-    if (!words.empty())
-        return words[0];
-    if (frame.IsUnattended())
-        NeedWord(words, 0, usage);
-    const DWORD flags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (open ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT);
-    CFileDialog dialog(open, extension, NULL, flags, filter, &frame);
-    return dialog.DoModal() == IDOK ? std::wstring(dialog.GetPathName().GetString()) : std::wstring();
-}
 
 void ListModules(MainFrame& frame)
 {
@@ -58,7 +45,7 @@ void Arx(MainFrame& frame, const Words& words)
     const bool unload = !words.empty() && HasName(L"U,UNLOAD,卸载", words[0]);
     const bool load = !words.empty() && HasName(L"L,LOAD,加载", words[0]);
     const Words names(words.begin() + (load || unload ? 1 : 0), words.end());
-    const std::wstring name = AskForFile(frame, names, true, L"arx", L"模块 (*.arx)|*.arx||", arxUsage);
+    const std::wstring name = AskForFile(frame, names, FilePrompt::Open, L"arx", L"模块 (*.arx)|*.arx||", arxUsage);
     if (name.empty())
         return;
     if (unload)
@@ -69,7 +56,7 @@ void Arx(MainFrame& frame, const Words& words)
 
 void Script(MainFrame& frame, const Words& words)
 {
-    const std::wstring path = AskForFile(frame, words, true, L"scr", L"脚本 (*.scr)|*.scr||", scriptUsage);
+    const std::wstring path = AskForFile(frame, words, FilePrompt::Open, L"scr", L"脚本 (*.scr)|*.scr||", scriptUsage);
     if (!path.empty())
         frame.StartScript(path);
 }
@@ -84,7 +71,7 @@ void Delay(MainFrame& frame, const Words& words)
 
 void Shot(MainFrame& frame, const Words& words)
 {
-    const std::wstring path = AskForFile(frame, words, false, L"png", L"图片 (*.png)|*.png||", shotUsage);
+    const std::wstring path = AskForFile(frame, words, FilePrompt::Save, L"png", L"图片 (*.png)|*.png||", shotUsage);
     if (path.empty())
         return;
     const std::wstring error = words.size() > 1 ? SaveDialogShot(frame, words[1], path) : SaveFrameShot(frame, path);

@@ -1,4 +1,4 @@
-// The suite's base library: tracing, text splitting, colours of the index palette.
+// The suite's base library: tracing, text splitting, colours of the index palette, the slide button.
 #pragma once
 
 #include "afx.h"
@@ -27,3 +27,5 @@ ZNQFC_API void SplitString(const wchar_t* text, wchar_t separator, CStringArray&
 // The colour of an index of the palette, 1 to 255. Every other index (0 and 256 are methods, not colours) gives white.
 ZNQFC_API COLORREF GetRGBFromACI(int index);
 } // namespace Tevrin
+
+#include "SlideButton.h"
