@@ -5,7 +5,7 @@ ZNKT_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 ZNKT_BUILD=${ZNKT_BUILD:-$ZNKT_ROOT/build}
 ZNKT_STARTED=${ZNKT_STARTED:-$SECONDS}
 ZNKT_PACKAGES="cmake ninja-build ccache g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-wqy-microhei
-  xvfb xauth googletest librecad-data clang clang-format git ca-certificates"
+  xvfb xauth netpbm googletest librecad-data clang clang-format git ca-certificates"
 
 step() { printf '==> [%3ds] %s\n' "$((SECONDS - ZNKT_STARTED))" "$*"; }
 fail() { printf 'error: %s\n' "$*" >&2; exit 1; }

@@ -89,6 +89,13 @@
 #define IDC_LABEL_TEXT 1904
 #define IDC_LABEL_OWN 1905
 
+// Picture preview: 2300 to 2349
+#define IDD_SLIDE_PAGE 2300
+#define IDC_SLIDE_SLIDE 2301
+#define IDC_SLIDE_IMAGE 2302
+#define IDC_SLIDE_EMPTY 2303
+#define IDC_SLIDE_DAMAGED 2304
+
 // Tab sheet: 1950 to 1999
 #define IDD_TAB_SHEET_PAGE 1950
 #define IDC_TAB_SHEET 1951

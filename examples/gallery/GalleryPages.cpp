@@ -10,6 +10,7 @@
 #include "pages/RichEditPage.h"
 #include "pages/LabelPage.h"
 #include "pages/PropertySheetPage.h"
+#include "pages/SlidePage.h"
 #include "pages/SortListPage.h"
 #include "pages/SuperEditPage.h"
 #include "pages/TreeCommandsPage.h"
@@ -44,6 +45,7 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CFollowTipPage>(L"follow-tip", L"提示与显示", L"随鼠标的提示"),
         Page<CTipButtonPage>(L"tip-button", L"提示与显示", L"带提示的按钮"),
         Page<CLabelPage>(L"label", L"提示与显示", L"上下标文字"),
+        Page<CSlidePage>(L"slide", L"提示与显示", L"图片预览"),
         Page<CTabSheetPage>(L"tab-sheet", L"提示与显示", L"选项卡"),
     };
     return pages;

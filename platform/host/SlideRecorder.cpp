@@ -151,6 +151,9 @@ void SlideRecorder::RecordArea(const arxgi::DisplayList& list, const arxgi::Disp
         Loop loop;
         for (size_t point = begin; point < end; ++point)
             loop.push_back(ToDot(list.points()[point]));
+        // A closed loop repeats its first point, which is no corner of its own.
+        while (loop.size() > 1 && loop.front().x == loop.back().x && loop.front().y == loop.back().y)
+            loop.pop_back();
         loops.push_back(loop);
         begin = end;
     }

@@ -5,6 +5,8 @@
 
 #include <commctrl.h>
 
+#include <set>
+
 namespace
 {
 
@@ -52,6 +54,26 @@ TEST_F(GalleryTipPages, TheLabelShowsWhatIsTyped)
     Run(L"GALLERYPAGE label");
     ::SetWindowTextW(PageControl(IDC_LABEL_TEXT), L"x{U3}");
     EXPECT_EQ(L"x{U3}", TextOfWindow(PageControl(IDC_LABEL_OWN)));
+}
+
+TEST_F(GalleryTipPages, ThePreviewsFindTheirSamples)
+{
+    Run(L"GALLERYPAGE slide");
+    // The middles: of the part in the drawing nothing, of the flange its hole; so a line through each is searched.
+    for (const int id : {IDC_SLIDE_SLIDE, IDC_SLIDE_IMAGE})
+    {
+        const HWND preview = PageControl(id);
+        CRect client;
+        ::GetClientRect(preview, &client);
+        ::UpdateWindow(preview);
+        const HDC dc = ::GetDC(preview);
+        std::set<COLORREF> colors;
+        for (int x = 0; x < client.right; ++x)
+            colors.insert(::GetPixel(dc, x, client.bottom * 3 / 5));
+        ::ReleaseDC(preview, dc);
+        EXPECT_LE(4u, colors.size()) << id
+                                     << ": red centre lines, white and cyan outlines on black; shades of the flange";
+    }
 }
 
 TEST_F(GalleryTipPages, TheTabSheetHasThreePagesAndShowsTheFirst)

@@ -12,7 +12,7 @@ install(TARGETS arxhost ${ZNKT_PLATFORM_TARGETS} ${ZNKT_MODULE_TARGETS}
   ARCHIVE DESTINATION lib)
 install(TARGETS arxapi ARCHIVE DESTINATION lib)
 install(FILES ${ZNKT_RUNTIME_DLLS} DESTINATION bin)
-install(DIRECTORY examples/drawings DESTINATION bin)
+install(DIRECTORY examples/drawings examples/gallery/samples DESTINATION bin)
 
 foreach(part afx arx xtp suite)
   install(DIRECTORY platform/${part}/include/ DESTINATION include/platform)

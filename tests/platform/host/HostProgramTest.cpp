@@ -1,5 +1,5 @@
 // The host as a program: scripts, exit codes, pictures.
-#include <windows.h>
+#include "suite/ZnQFCBaseU/Slide.h"
 
 #include <gtest/gtest.h>
 
@@ -85,6 +85,33 @@ TEST(HostProgram, ScriptTakesAPictureAndEndsWithZero)
     EXPECT_EQ("\x89PNG\r\n\x1A\n", ReadStart(picture));
     DeleteFileW(picture.c_str());
     DeleteFileW(drawing.c_str());
+}
+
+TEST(HostProgram, ViewIsSavedAsASlide)
+{
+    const std::wstring drawing = WriteDrawing();
+    const std::wstring slidePath = TemporaryPath(L"host_program_test.sld");
+    DeleteFileW(slidePath.c_str());
+    // The extension is added.
+    const std::string path = Narrow(slidePath.substr(0, slidePath.size() - 4));
+    EXPECT_EQ(0u, RunScript(L"\"" + drawing + L"\"", "ZOOM E\nMSLIDE \"" + path + "\"\n"));
+    Tevrin::Slide slide;
+    ASSERT_EQ(Tevrin::kSlideGood, slide.Read(slidePath.c_str()));
+    ASSERT_EQ(2u, slide.Points().size()) << "the line of the drawing";
+    EXPECT_LT(100, slide.Width());
+    const Tevrin::SlidePoint& from = slide.Points()[0];
+    const Tevrin::SlidePoint& to = slide.Points()[1];
+    EXPECT_NEAR((to.x - from.x) / 2.0, to.y - from.y, 2) << "two units right, one up";
+    EXPECT_NEAR(slide.Width() / 2.0, (from.x + to.x) / 2.0, 2) << "in the middle of the view";
+    DeleteFileW(slidePath.c_str());
+    DeleteFileW(drawing.c_str());
+}
+
+TEST(HostProgram, SlideThatCannotBeSavedEndsTheScriptWithOne)
+{
+    EXPECT_EQ(1u, RunScript(L"", "NEW\nMSLIDE\n")) << "nobody is there to choose a file";
+    EXPECT_EQ(1u, RunScript(L"", "NEW\nMSLIDE Q:\\no_such_folder\\a.sld\n"));
+    EXPECT_EQ(1u, RunScript(L"", "CLOSE\nMSLIDE a.sld\n")) << "there is no drawing";
 }
 
 TEST(HostProgram, CommandThatFailsEndsTheScriptWithOne)

@@ -363,3 +363,19 @@ TEST_F(Image, LoadingWorksAgainAfterGdiPlusWasReleased)
     ASSERT_EQ(S_OK, image.Load(path));
     ExpectPainted(image);
 }
+
+TEST_F(Image, StartingAndStoppingGdiPlusLeavesNoObjectBehind)
+{
+    const CString path = Path(L"again.png");
+    const auto use = [&path] {
+        CImage image;
+        Paint(image, 24);
+        ASSERT_EQ(S_OK, image.Save(path));
+        ASSERT_EQ(S_OK, image.Load(path));
+    };
+    use();
+    const size_t before = CountGdiObjects();
+    for (int i = 0; i < 10; ++i)
+        use();
+    EXPECT_EQ(before, CountGdiObjects());
+}
