@@ -168,6 +168,14 @@ CRect EditableListFixture::CellRect(int row, int column)
     return rect;
 }
 
+CRect EditableListFixture::PlaceOf(HWND child)
+{
+    CRect rect;
+    ::GetWindowRect(child, &rect);
+    ::MapWindowPoints(NULL, List().m_hWnd, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 void EditableListFixture::Click(CPoint point)
 {
     const HWND list = List().m_hWnd;

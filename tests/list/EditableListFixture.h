@@ -83,6 +83,8 @@ protected:
     std::vector<int> Selected();
 
     CRect CellRect(int row, int column);
+    // Of a child, in the list's client coordinates.
+    CRect PlaceOf(HWND child);
     void Click(CPoint point);
     void ClickCell(int row, int column) { Click(CellRect(row, column).CenterPoint()); }
 
