@@ -71,6 +71,10 @@ TEST_F(SlideButton, WithoutANameItShowsTheBackground)
     m_button.SetFileName(nullptr);
     Draw();
     EXPECT_TRUE(IsBlank());
+    m_button.SetFileName(m_folder.File(L"missing.sld"));
+    m_button.SetFileName(L"");
+    Draw();
+    EXPECT_TRUE(IsBlank());
     EXPECT_TRUE(m_button.GetError().IsEmpty());
 }
 
