@@ -7,6 +7,7 @@
 #include "pages/IconTreePage.h"
 #include "pages/FollowTipPage.h"
 #include "pages/InputDialogPage.h"
+#include "pages/ResizerPage.h"
 #include "pages/RichEditPage.h"
 #include "pages/LabelPage.h"
 #include "pages/PropertySheetPage.h"
@@ -41,6 +42,7 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CTreeCommandsPage>(L"tree-commands", L"树", L"条目树与命令"),
         Page<CComboButtonPage>(L"combo-button", L"按钮", L"组合按钮"),
         Page<CPropertySheetPage>(L"property-sheet", L"对话框", L"属性表"),
+        Page<CResizerPage>(L"resizer", L"对话框", L"调整大小与位置"),
         Page<CHtmlPage>(L"html", L"对话框", L"浏览器控件"),
         Page<CFollowTipPage>(L"follow-tip", L"提示与显示", L"随鼠标的提示"),
         Page<CTipButtonPage>(L"tip-button", L"提示与显示", L"带提示的按钮"),

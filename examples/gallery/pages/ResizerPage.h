@@ -1,0 +1,18 @@
+// The resizer: a dialog that can be resized and opens where it was left.
+#pragma once
+
+#include "../GalleryPage.h"
+
+class CResizerPage : public CGalleryPage
+{
+public:
+    static const wchar_t Description[];
+    static const wchar_t Code[];
+
+    CResizerPage();
+
+protected:
+    afx_msg void OnOpen();
+
+    DECLARE_MESSAGE_MAP()
+};
