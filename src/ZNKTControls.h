@@ -5,6 +5,7 @@
 #include "button/ComboButton.h"
 #include "button/ComboButtonItem.h"
 #include "dialog/AutoRichEditCtrl.h"
+#include "dialog/CheckSpecMsgThread.h"
 #include "dialog/HtmlCtrl.h"
 #include "dialog/NoHelpPropertySheet.h"
 #include "edit/InputDialog.h"

@@ -15,3 +15,10 @@ enum
 {
     ZNKT_TIMER_FLASH = 1
 };
+
+// Timers of the check window: the cursor has rested; look whether it has left.
+enum
+{
+    ZNKT_TIMER_CHECK_SHOW = 1,
+    ZNKT_TIMER_CHECK_HIDE = 2
+};

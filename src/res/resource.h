@@ -3,6 +3,7 @@
 
 #define IDD_MSG_VIEWER 102
 #define IDD_INPUT 103
+#define IDD_CHECK_SPECIFICATION 1000
 
 #define IDI_TREE 104
 #define IDI_DELETE 105
@@ -33,3 +34,8 @@
 // Controls of the input dialog.
 #define IDC_INPUT_TEXT 100
 #define IDC_INPUT_PROMPT 104
+
+// Controls of the check window.
+#define IDC_CHECK_TEXT 112
+#define IDC_CHECK_DOCK 113
+#define IDC_CHECK_CLOSE 114

@@ -1,6 +1,7 @@
 #include "afx/core/Resources.h"
 
 #include "afx/core/String.h"
+#include "afx/core/ThreadResources.h"
 
 #include <algorithm>
 #include <mutex>
@@ -24,6 +25,8 @@ Modules& TheModules()
     return modules;
 }
 
+thread_local HINSTANCE g_threadModule = NULL;
+
 // The current module and the extensions, in search order.
 std::vector<HINSTANCE> SearchOrder()
 {
@@ -46,6 +49,8 @@ HINSTANCE FirstWith(HAS has)
 
 HINSTANCE AFXAPI AfxGetResourceHandle()
 {
+    if (g_threadModule != NULL)
+        return g_threadModule;
     Modules& modules = TheModules();
     const std::lock_guard<std::mutex> lock(modules.mutex);
     return modules.current == NULL ? ::GetModuleHandleW(NULL) : modules.current;
@@ -53,6 +58,11 @@ HINSTANCE AFXAPI AfxGetResourceHandle()
 
 void AFXAPI AfxSetResourceHandle(HINSTANCE module)
 {
+    if (g_threadModule != NULL)
+    {
+        g_threadModule = module;
+        return;
+    }
     Modules& modules = TheModules();
     const std::lock_guard<std::mutex> lock(modules.mutex);
     modules.current = module;
@@ -79,6 +89,16 @@ int AFXAPI AfxLoadString(UINT id, LPWSTR text, UINT maxCount)
 
 namespace afx
 {
+HINSTANCE ThreadResourceHandle()
+{
+    return g_threadModule;
+}
+
+void SetThreadResourceHandle(HINSTANCE module)
+{
+    g_threadModule = module;
+}
+
 void AddExtensionModule(HINSTANCE module)
 {
     Modules& modules = TheModules();

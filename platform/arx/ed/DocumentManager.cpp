@@ -2,6 +2,8 @@
 
 #include "CommandRunner.h"
 #include "HostState.h"
+#include "afx/core/ThreadLocal.h"
+#include "afx/core/ThreadResources.h"
 #include "arx/rx/DynamicLinker.h"
 #include "arx/rx/Names.h"
 #include "dbapserv.h"
@@ -32,6 +34,13 @@ namespace arxed
 
 namespace
 {
+
+// What pushes of the calling thread took the place of.
+std::vector<HINSTANCE>& ThreadResourceStack()
+{
+    static CPerThread<std::vector<HINSTANCE>> stacks;
+    return stacks.Get([] { return new std::vector<HINSTANCE>; });
+}
 
 class DocumentIterator : public AcApDocumentIterator
 {
@@ -278,19 +287,21 @@ Acad::ErrorStatus DocumentManager::appContextCloseDocument(AcApDocument* documen
     return closeDocument(document);
 }
 
+// The stack is the calling thread's own, and so is what it switches: a window may be made on a thread of its own while
+// the main thread makes another.
 void DocumentManager::pushResourceHandle(HINSTANCE instance)
 {
-    m_resourceHandles.push_back(AfxGetResourceHandle());
-    AfxSetResourceHandle(instance);
+    ThreadResourceStack().push_back(afx::ThreadResourceHandle());
+    afx::SetThreadResourceHandle(instance);
 }
 
 void DocumentManager::popResourceHandle()
 {
-    if (!m_resourceHandles.empty())
-    {
-        AfxSetResourceHandle(m_resourceHandles.back());
-        m_resourceHandles.pop_back();
-    }
+    std::vector<HINSTANCE>& stack = ThreadResourceStack();
+    if (stack.empty())
+        return;
+    afx::SetThreadResourceHandle(stack.back());
+    stack.pop_back();
 }
 
 Document* DocumentManager::Find(const AcApDocument* document) const
@@ -388,7 +399,7 @@ void DocumentManager::Reset()
     {
         closeDocument(m_documents.back());
     }
-    while (!m_resourceHandles.empty())
+    while (!ThreadResourceStack().empty())
     {
         popResourceHandle();
     }

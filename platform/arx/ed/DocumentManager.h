@@ -74,7 +74,6 @@ private:
     Document* m_active = nullptr;
     bool m_activationEnabled = true;
     int m_lastTitle = 0;
-    std::vector<HINSTANCE> m_resourceHandles;
     arxrx::ReactorList<AcApDocManagerReactor> m_reactors;
 };
 

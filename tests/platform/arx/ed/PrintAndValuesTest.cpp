@@ -5,6 +5,8 @@
 
 #include <afxwin.h>
 
+#include <thread>
+
 namespace
 {
 
@@ -119,6 +121,44 @@ TEST(ResourceHandles, ArePushedAndPopped)
     EXPECT_EQ(AfxGetResourceHandle(), before);
     acDocManager->popResourceHandle();
     EXPECT_EQ(AfxGetResourceHandle(), before);
+}
+
+TEST(ResourceHandles, OfAThreadAreItsOwn)
+{
+    arxhost::Reset();
+    const HINSTANCE before = AfxGetResourceHandle();
+    const HINSTANCE own = GetModuleHandleW(L"arx.dll");
+    const HINSTANCE others = GetModuleHandleW(L"user32.dll");
+    acDocManager->pushResourceHandle(own);
+    HINSTANCE atFirst = NULL;
+    HINSTANCE pushed = NULL;
+    HINSTANCE atLast = NULL;
+    std::thread([&] {
+        atFirst = AfxGetResourceHandle();
+        acDocManager->pushResourceHandle(others);
+        pushed = AfxGetResourceHandle();
+        acDocManager->popResourceHandle();
+        acDocManager->popResourceHandle();
+        atLast = AfxGetResourceHandle();
+    }).join();
+    EXPECT_EQ(before, atFirst);
+    EXPECT_EQ(others, pushed);
+    EXPECT_EQ(before, atLast);
+    EXPECT_EQ(own, AfxGetResourceHandle());
+    acDocManager->popResourceHandle();
+    EXPECT_EQ(before, AfxGetResourceHandle());
+}
+
+TEST(ResourceHandles, SettingOneWhileAnotherIsPushedLastsUntilThePop)
+{
+    arxhost::Reset();
+    const HINSTANCE before = AfxGetResourceHandle();
+    const HINSTANCE set = GetModuleHandleW(L"user32.dll");
+    acDocManager->pushResourceHandle(GetModuleHandleW(L"arx.dll"));
+    AfxSetResourceHandle(set);
+    EXPECT_EQ(set, AfxGetResourceHandle());
+    acDocManager->popResourceHandle();
+    EXPECT_EQ(before, AfxGetResourceHandle());
 }
 
 } // namespace
