@@ -87,6 +87,7 @@ protected:
         ASSERT_TRUE(WaitFor([this] { return Dialog() != NULL; }));
         // Whatever is posted from here on is taken by the thread's loop.
         m_thread->Hold();
+        m_idle = LiveArrays();
         m_thread->LetGo();
     }
 
@@ -148,5 +149,6 @@ protected:
     }
 
     const long m_before;
+    long m_idle = 0; // arrays while the window is there, without any texts on their way
     std::unique_ptr<HeldThread> m_thread;
 };

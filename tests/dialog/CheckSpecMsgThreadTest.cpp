@@ -14,7 +14,7 @@ protected:
     // The thread frees a block after it has shown its texts.
     bool BlocksAreGone()
     {
-        return WaitFor([this] { return LiveArrays() == m_before; });
+        return WaitFor([this] { return LiveArrays() == m_idle; });
     }
 
     // Whether the thread works at one of the system's own loops.
@@ -133,10 +133,14 @@ TEST_F(CheckSpecMsgThread, ANullBlockShowsThatThereIsNothing)
 TEST_F(CheckSpecMsgThread, HugeTextsAreShownWhole)
 {
     StartThread();
-    const size_t length = 200000; // more than users may type
-    ShowMsg({std::wstring(length, L'x'), L"last"});
-    EXPECT_TRUE(WaitFor([&] { return ::GetWindowTextLengthW(Item(kTextId)) == static_cast<int>(length) + 8; }));
-    EXPECT_EQ(L"last\r\n", Text().substr(length + 2));
+    const int lines = 1100; // together more than users may type
+    const std::wstring line(60, L'x');
+    std::vector<std::wstring> texts(lines, line);
+    texts.push_back(L"last");
+    ShowMsg(texts);
+    const int length = lines * (60 + 2) + 6; // with the ends of lines
+    EXPECT_TRUE(WaitFor([&] { return ::GetWindowTextLengthW(Item(kTextId)) == length; }, 20000));
+    EXPECT_EQ(L"x\r\nlast\r\n", Text().substr(length - 9));
 }
 
 TEST_F(CheckSpecMsgThread, BracesAndBackslashesInsideATextStayThemselves)
@@ -165,7 +169,7 @@ TEST_F(CheckSpecMsgThread, TheSameNumbersPostedToAWindowAreNotTaken)
     ::PostMessageW(Dialog(), 1226, 1, 0); // would be a block at the address 1
     m_thread->Hold();
     EXPECT_TRUE(IsShown());
-    EXPECT_EQ(m_before, LiveArrays());
+    EXPECT_EQ(m_idle, LiveArrays());
     m_thread->LetGo();
     EXPECT_TRUE(ShowsText(L"a\r\n"));
 }
@@ -248,7 +252,7 @@ TEST_F(CheckSpecMsgThread, TextsThatAreStillQueuedAtTheEndAreFreed)
     const int queued = 50;
     for (int i = 0; i < queued; ++i)
         ShowMsg({L"a"});
-    EXPECT_EQ(m_before + queued, LiveArrays());
+    EXPECT_EQ(m_idle + queued, LiveArrays());
     m_thread->LetGo();
     EXPECT_TRUE(WaitFor([this] { return m_thread->HasEnded(); }));
     EXPECT_EQ(m_before, LiveArrays());

@@ -136,7 +136,7 @@ TEST_F(CheckSpecificationMsgDlg, NoTextsAreSaidInBoldCentredWords)
     Rich().GetSelectionCharFormat(format);
     EXPECT_EQ(static_cast<DWORD>(CFE_BOLD), format.dwEffects & CFE_BOLD);
     EXPECT_EQ(9, Rich().GetFontSize());
-    EXPECT_STREQ(L"宋体", Rich().GetFontName().GetString());
+    EXPECT_EQ(GB2312_CHARSET, format.bCharSet);
     PARAFORMAT2 paragraph = {};
     Rich().GetParaFormat(paragraph);
     EXPECT_EQ(PFA_CENTER, paragraph.wAlignment);
