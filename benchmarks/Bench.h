@@ -67,5 +67,6 @@ void MeasureSlide(Report& report);
 void MeasureComboMenu(Report& report);
 void MeasureTrees(Report& report);
 void MeasureRichEdit(Report& report);
+void MeasureCheckWindow(Report& report);
 
 } // namespace bench

@@ -1,5 +1,6 @@
 ﻿#include "GalleryPages.h"
 
+#include "pages/CheckWindowPage.h"
 #include "pages/ComboButtonPage.h"
 #include "pages/EditableListPage.h"
 #include "pages/CheckTreePage.h"
@@ -45,6 +46,7 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CResizerPage>(L"resizer", L"对话框", L"调整大小与位置"),
         Page<CHtmlPage>(L"html", L"对话框", L"浏览器控件"),
         Page<CFollowTipPage>(L"follow-tip", L"提示与显示", L"随鼠标的提示"),
+        Page<CCheckWindowPage>(L"check-window", L"提示与显示", L"检查信息窗口"),
         Page<CTipButtonPage>(L"tip-button", L"提示与显示", L"带提示的按钮"),
         Page<CLabelPage>(L"label", L"提示与显示", L"上下标文字"),
         Page<CSlidePage>(L"slide", L"提示与显示", L"图片预览"),

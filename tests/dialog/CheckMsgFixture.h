@@ -33,7 +33,7 @@ inline std::wstring TextOf(HWND window)
     return text;
 }
 
-// A window's thread that the test may hold up, and that notes what its filter said to key presses.
+// A window's thread that the test may hold up, and that notes what its filter sees.
 class HeldThread : public CCheckSpecMsgThread
 {
 public:
@@ -54,6 +54,7 @@ public:
         const BOOL taken = CCheckSpecMsgThread::PreTranslateMessage(message);
         if (message->message == WM_KEYDOWN)
             ++(taken ? keysTaken : keysLeft);
+        releases += message->message == WM_LBUTTONUP;
         return taken;
     }
 
@@ -69,6 +70,7 @@ public:
     std::atomic<bool> held{false};
     std::atomic<int> keysTaken{0};
     std::atomic<int> keysLeft{0};
+    std::atomic<int> releases{0}; // of the mouse button
 
 private:
     const HANDLE m_go = ::CreateEventW(NULL, FALSE, FALSE, NULL);
