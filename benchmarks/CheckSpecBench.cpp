@@ -133,7 +133,8 @@ void Add(Report& report, const char* name, const Pair& pair)
 void AddOwnShare(Report& report, const CStringArray& texts)
 {
     CheckThread none;
-    const double seconds = MedianSeconds(kRuns, nullptr, [&] { PostTexts(none, texts); }, nullptr);
+    const double seconds = MedianSeconds(
+        kRuns, nullptr, [&] { PostTexts(none, texts); }, nullptr);
     report.Add({"check window: a post but for the system's part", "us", seconds * kMicroseconds / kPosts, 0,
                 kLimitMicroseconds, ""});
 }
