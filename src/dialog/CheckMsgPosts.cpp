@@ -78,8 +78,9 @@ void CCheckMsgPosts::PostShow(DWORD thread, int command)
 void CCheckMsgPosts::PostEnd(DWORD thread)
 {
     const CPosting posting(*this);
-    if (!posting.IsOpen() || Post(thread, WM_QUIT, 0) != FULL)
+    if (thread == 0 || !posting.IsOpen() || Post(thread, WM_QUIT, 0) == POSTED)
         return;
+    // A thread that has no queue yet would never hear of its end either.
     KeepEnd();
     Post(thread, WM_NULL, 0);
 }

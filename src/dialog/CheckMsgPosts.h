@@ -3,7 +3,7 @@
 //
 // The system takes 10,000 messages a thread. A text that finds no room is kept here instead, in place of one kept
 // earlier, and is shown once the queue is worked off: of any number of texts the last one is shown. A thread that has
-// no queue yet, or has ended, gets nothing, and the text is freed.
+// no queue yet, or has ended, gets nothing, and the text is freed; only its end is kept, so that it ends once it runs.
 #pragma once
 
 #include <afxwin.h>

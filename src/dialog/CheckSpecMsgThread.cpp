@@ -84,6 +84,8 @@ BOOL CCheckSpecMsgThread::InitInstance()
         m_pDlg->ShowWindow(SW_HIDE);
         m_hDlg = m_pDlg->m_hWnd;
     }
+    if (m_pPosts->TakeEnd())
+        ::PostQuitMessage(0); // it came before this thread had a queue
     return TRUE;
 }
 

@@ -232,6 +232,15 @@ TEST_F(CheckSpecMsgThread, PostsBeforeTheThreadHasAQueueAreFreed)
     EXPECT_TRUE(WaitFor([this] { return Dialog() != NULL; }));
 }
 
+TEST_F(CheckSpecMsgThread, AnEndBeforeTheThreadHasAQueueEndsItOnceItRuns)
+{
+    m_thread.reset(new HeldThread);
+    ASSERT_TRUE(m_thread->CreateThread(CREATE_SUSPENDED));
+    m_thread->End();
+    m_thread->ResumeThread();
+    EXPECT_TRUE(WaitFor([this] { return m_thread->HasEnded(); }));
+}
+
 TEST_F(CheckSpecMsgThread, PostsAfterTheEndAreFreed)
 {
     StartThread();

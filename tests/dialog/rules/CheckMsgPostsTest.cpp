@@ -145,9 +145,16 @@ TEST_F(CheckMsgPosts, AThreadWithoutAQueueGetsNothingAndTheTextIsFreed)
     Queue::s_error = ERROR_INVALID_THREAD_ID;
     PostText(L"a");
     m_posts.PostShow(kThread, SW_SHOW);
-    m_posts.PostEnd(kThread);
     EXPECT_FALSE(m_posts.HasKept());
     EXPECT_EQ(m_before, LiveArrays());
+}
+
+TEST_F(CheckMsgPosts, TheEndOfAThreadWithoutAQueueIsKept)
+{
+    Queue::s_room = 0;
+    Queue::s_error = ERROR_INVALID_THREAD_ID;
+    m_posts.PostEnd(kThread);
+    EXPECT_TRUE(m_posts.TakeEnd());
 }
 
 TEST_F(CheckMsgPosts, OfTextsThatFindTheQueueFullTheLastIsKept)
