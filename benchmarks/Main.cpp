@@ -53,12 +53,7 @@ const Subject kSubjects[] = {
     {"combo-menu", bench::MeasureComboMenu},
     {"trees", bench::MeasureTrees},
     {"rich-edit", bench::MeasureRichEdit},
-    {"message-store", bench::MeasureMessageStore}, {"message-viewer", bench::MeasureMessageViewer},
-    {"sort-list", bench::MeasureSortList},         {"editable-list", bench::MeasureEditableList},
-    {"super-edit", bench::MeasureSuperEdit},       {"resize", bench::MeasureResize},
-    {"follow-tip", bench::MeasureFollowTip},       {"label", bench::MeasureLabel},
-    {"combo-menu", bench::MeasureComboMenu},       {"trees", bench::MeasureTrees},
-    {"rich-edit", bench::MeasureRichEdit},         {"check-window", bench::MeasureCheckWindow},
+    {"check-window", bench::MeasureCheckWindow},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)
