@@ -35,6 +35,8 @@ protected:
         });
     }
 
+    bool IsWorkedIn() const { return ::SendMessageW(Dialog(), 0x7101, 0, 0) == 1; }
+
     CPoint MiddleOf(int id) const
     {
         CRect place;
@@ -71,10 +73,15 @@ TEST_F(CheckSpecMsgInput, HidesWhenTheMouseLeaves)
 
 TEST_F(CheckSpecMsgInput, StaysWhileTheMouseIsInsideAndHidesAfterwards)
 {
-    ASSERT_TRUE(Hover());
-    const CPoint inside = Place().CenterPoint();
-    // The window notes the mouse, and its timer looks again meanwhile.
-    EXPECT_TRUE(MoveMouseUntil(inside, [this] { return ::SendMessageW(Dialog(), 0x7101, 0, 0) == 1; }));
+    // The display may report an earlier place of the mouse late (RealMouse.h), and the window rightly hides then.
+    constexpr int attempts = 4;
+    bool inside = false;
+    for (int i = 0; i < attempts && !inside; ++i)
+    {
+        ASSERT_TRUE(Hover());
+        inside = MoveMouseUntil(Place().CenterPoint(), [this] { return !IsShown() || IsWorkedIn(); }) && IsShown();
+    }
+    ASSERT_TRUE(inside);
     ::SendMessageW(Dialog(), WM_TIMER, 2, 0);
     EXPECT_TRUE(IsShown());
     EXPECT_TRUE(MoveMouseUntil(kElsewhere, [this] { return !IsShown(); }));
