@@ -13,6 +13,8 @@
 #include "list/ZNListCtrl.h"
 #include "list/ZNSortListCtrl.h"
 #include "msg/KTMsgWnd.h"
+#include "msg/MsgCallbackImp.h"
+#include "msg/ZNMsgObject.h"
 #include "tip/FollowMouseTipWnd.h"
 #include "tip/SlideCtrl.h"
 #include "tip/TabSheet.h"

@@ -23,6 +23,7 @@ _znkt_import(ZNKT::xtp xtp.dll)
 _znkt_import(ZNKT::ZnQFCBaseU ZnQFCBaseU.dll)
 _znkt_import(ZNKT::ZNKTPub ZNKTPub.arx)
 _znkt_import(ZNKT::ZnAcadUiBase ZnAcadUiBase.arx)
+_znkt_import(ZNKT::ZNWaitDlgDll ZNWaitDlgDll.dll)
 _znkt_import(ZNKT::ControlsModule ZNKTControls.arx)
 
 # The interface version that every module exports; no source asks for it, so the linker is told to.
@@ -37,7 +38,7 @@ if(NOT TARGET ZNKT::Platform)
   add_library(ZNKT::Platform INTERFACE IMPORTED)
   set_target_properties(ZNKT::Platform PROPERTIES
     INTERFACE_LINK_LIBRARIES
-      "ZNKT::arx;ZNKT::xtp;ZNKT::ZNKTPub;ZNKT::ZnAcadUiBase;ZNKT::ZnQFCBaseU;ZNKT::afx;comctl32;gdi32;ole32;uuid"
+      "ZNKT::arx;ZNKT::xtp;ZNKT::ZNKTPub;ZNKT::ZnAcadUiBase;ZNKT::ZNWaitDlgDll;ZNKT::ZnQFCBaseU;ZNKT::afx;comctl32;gdi32;ole32;uuid"
     INTERFACE_COMPILE_DEFINITIONS
       "UNICODE;_UNICODE;WIN32;_WINDOWS;WINVER=0x0601;_WIN32_WINNT=0x0601;_WIN32_IE=0x0800;_AFXDLL;NOMINMAX"
     # The framework's null objects and typed pointer collections need both, as the platform's own build does.

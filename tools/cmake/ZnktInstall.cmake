@@ -3,7 +3,7 @@
 #   include  the module's exported headers and the bundled platform's
 #   lib      import libraries and the CMake package ZNKTControls
 
-set(ZNKT_PLATFORM_TARGETS afx arx xtp ZnQFCBaseU ZNKTPub ZnAcadUiBase ZNKTRes)
+set(ZNKT_PLATFORM_TARGETS afx arx xtp ZnQFCBaseU ZNKTPub ZnAcadUiBase ZNKTRes ZNWaitDlgDll)
 set(ZNKT_MODULE_TARGETS ZNKTControls drawing_check gallery)
 
 install(TARGETS arxhost ${ZNKT_PLATFORM_TARGETS} ${ZNKT_MODULE_TARGETS}

@@ -3,12 +3,20 @@
 
 #include "adsdef.h"
 #include "adscodes.h"
+#include "afx/core/FormatArgument.h"
 #include "arx/Api.h"
+
+ARX_API int acutPrintfArguments(const ACHAR* format, afx::FormatArguments arguments);
 
 // Prints on the command line like the C library's printf for wide characters (%s is a wide string), without an end of
 // line of its own. The result is formatted before it reaches the command line, so that a per cent sign in an argument
-// is only text. RTERROR for a null or unusable format.
-ARX_API int acutPrintf(const ACHAR* format, ...);
+// is only text. Harmless with a text that is no format: a directive without an argument of its kind comes out as it
+// stands (afx/core/TextFormat.h has the rules). RTERROR for null.
+template<class... ARGUMENTS>
+int acutPrintf(const ACHAR* format, ARGUMENTS... arguments)
+{
+    return acutPrintfArguments(format, {arguments...});
+}
 
 // A copy for which acutDelString() answers; RTERROR for null.
 ARX_API int acutNewString(const ACHAR* source, ACHAR*& copy);

@@ -1,19 +1,14 @@
 #include "ZNKTPub.h"
 
-#include <stdarg.h>
+#include "afx/core/TextFormat.h"
 
 namespace MFCUtils
 {
-int ShowMsg(HWND parent, const wchar_t* caption, unsigned int style, const wchar_t* format, ...)
+int ShowMsgArguments(HWND parent, const wchar_t* caption, unsigned int style, const wchar_t* format,
+                     afx::FormatArguments arguments)
 {
     CString text;
-    if (format != nullptr)
-    {
-        va_list arguments;
-        va_start(arguments, format);
-        text.FormatV(format, arguments);
-        va_end(arguments);
-    }
+    afx::FormatText(text, format, arguments);
     return ::MessageBoxW(::IsWindow(parent) ? parent : nullptr, text, caption == nullptr ? L"" : caption, style);
 }
 } // namespace MFCUtils

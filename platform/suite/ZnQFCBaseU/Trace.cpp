@@ -1,7 +1,8 @@
 #include "ZnQFCBaseU.h"
 
+#include "afx/core/TextFormat.h"
+
 #include <mutex>
-#include <stdarg.h>
 #include <stdio.h>
 #include <string>
 
@@ -53,16 +54,12 @@ TraceFile g_file;
 
 namespace Tevrin
 {
-void Trace(const wchar_t* format, ...)
+void TraceArguments(const wchar_t* format, afx::FormatArguments arguments)
 {
     if (format == nullptr)
         return;
-    va_list arguments;
-    va_start(arguments, format);
     CString line;
-    line.FormatV(format, arguments);
-    va_end(arguments);
-
+    afx::FormatText(line, format, arguments);
     OutputDebugStringW(line + L"\n");
     g_file.Write(line);
 }

@@ -1,14 +1,14 @@
-﻿// The suite's companion module: folders, colours by name, message boxes.
+﻿// The suite's companion module: folders, colours by name, message boxes, what operations report through.
 #pragma once
 
 #include "afx.h"
 #include "dbcolor.h"
 
-#ifdef ZNKTPub_EXPORTS
-#define ZNKTPUB_API __declspec(dllexport)
-#else
-#define ZNKTPUB_API __declspec(dllimport)
-#endif
+#include "afx/core/FormatArgument.h"
+#include "suite/ZNKTPub/Api.h"
+#include "suite/ZNKTPub/MsgCallback.h"
+#include "suite/ZNKTPub/MsgCallbackManager.h"
+#include "suite/ZNKTPub/MsgTracker.h"
 
 namespace ZNKTPub
 {
@@ -29,7 +29,15 @@ ZNKTPUB_API AcCmColor GetColorFromName(const wchar_t* name);
 
 namespace MFCUtils
 {
+ZNKTPUB_API int ShowMsgArguments(HWND parent, const wchar_t* caption, unsigned int style, const wchar_t* format,
+                                 afx::FormatArguments arguments);
+
 // A message box with a printf-style text of any length; `style` are MB_ flags, 0 a plain box with OK. A parent that is
-// no window counts as none. Returns the button's IDxxx, 0 when the box could not be shown.
-ZNKTPUB_API int ShowMsg(HWND parent, const wchar_t* caption, unsigned int style, const wchar_t* format, ...);
+// no window counts as none. Returns the button's IDxxx, 0 when the box could not be shown. Harmless with a text that is
+// no format: a directive without an argument of its kind comes out as it stands (afx/core/TextFormat.h has the rules).
+template<class... ARGUMENTS>
+int ShowMsg(HWND parent, const wchar_t* caption, unsigned int style, const wchar_t* format, ARGUMENTS... arguments)
+{
+    return ShowMsgArguments(parent, caption, style, format, {arguments...});
+}
 } // namespace MFCUtils

@@ -4,6 +4,8 @@
 #include "afx.h"
 #include "afxcoll.h"
 
+#include "afx/core/FormatArgument.h"
+
 #ifdef ZnQFCBaseU_EXPORTS
 #define ZNQFC_API __declspec(dllexport)
 #else
@@ -12,9 +14,16 @@
 
 namespace Tevrin
 {
+ZNQFC_API void TraceArguments(const wchar_t* format, afx::FormatArguments arguments);
+
 // Formats one line and sends it to the debugger output and, if one is set, to the trace file. A null format does
-// nothing. May be called from any thread.
-ZNQFC_API void Trace(const wchar_t* format, ...);
+// nothing. A directive without an argument of its kind comes out as it stands (afx/core/TextFormat.h has the rules).
+// May be called from any thread.
+template<class... ARGUMENTS>
+void Trace(const wchar_t* format, ARGUMENTS... arguments)
+{
+    TraceArguments(format, {arguments...});
+}
 
 // Appends every later trace line to that file, as UTF-8, after the local time; the file is opened for each line, so it
 // can be read meanwhile. Null or an empty path ends it. A file that can't be written is left out silently.

@@ -97,6 +97,20 @@ TEST(ShowMsg, TakesTextsOfAnyLength)
     EXPECT_STREQ(text, closer.Text());
 }
 
+TEST(ShowMsg, ATextThatIsNoFormatStandsInTheBoxAsItIs)
+{
+    BoxCloser closer(L"Suite per cent", IDOK);
+    EXPECT_EQ(IDOK, MFCUtils::ShowMsg(nullptr, L"Suite per cent", 0, L"%s %n 50% %% %d"));
+    EXPECT_STREQ(L"%s %n 50% % %d", closer.Text());
+}
+
+TEST(ShowMsg, ADirectiveWithoutAnArgumentStandsInTheBoxAsItIs)
+{
+    BoxCloser closer(L"Suite short", IDOK);
+    EXPECT_EQ(IDOK, MFCUtils::ShowMsg(nullptr, L"Suite short", 0, L"%d of %s", 3));
+    EXPECT_STREQ(L"3 of %s", closer.Text());
+}
+
 TEST(ShowMsg, ANullFormatShowsAnEmptyBox)
 {
     BoxCloser closer(L"Suite empty", IDOK);

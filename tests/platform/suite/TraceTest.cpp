@@ -72,6 +72,16 @@ TEST_F(Trace, TakesLinesOfAnyLength)
     EXPECT_GT(Lines()[0].size(), 20000u);
 }
 
+TEST_F(Trace, ATextThatIsNoFormatIsWrittenAsItIs)
+{
+    Tevrin::Trace(L"%s %n 50% %% %d");
+    Tevrin::Trace(L"%d of %s", 3);
+    const std::vector<std::string> lines = Lines();
+    ASSERT_EQ(2u, lines.size());
+    EXPECT_TRUE(EndsWith(lines[0], " %s %n 50% % %d\r")) << lines[0];
+    EXPECT_TRUE(EndsWith(lines[1], " 3 of %s\r")) << lines[1];
+}
+
 TEST_F(Trace, ANullFormatWritesNothing)
 {
     Tevrin::Trace(nullptr);

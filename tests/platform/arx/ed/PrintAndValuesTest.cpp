@@ -28,6 +28,27 @@ TEST_F(Printing, PerCentSignsInDataAreText)
     EXPECT_EQ(Take(), L"%s%n");
 }
 
+TEST_F(Printing, TextsThatAreNoFormatsComeOutAsTheyStand)
+{
+    for (const wchar_t* text : {L"50%", L"%s", L"%n", L"%d and %s", L"%", L"100% done", L"%*.*f"})
+    {
+        EXPECT_EQ(acutPrintf(text), RTNORM);
+        EXPECT_EQ(Take(), text);
+    }
+    EXPECT_EQ(acutPrintf(L"100%%"), RTNORM);
+    EXPECT_EQ(Take(), L"100%");
+}
+
+TEST_F(Printing, DirectivesWithoutAnArgumentComeOutAsTheyStand)
+{
+    EXPECT_EQ(acutPrintf(L"%d %s", 1), RTNORM);
+    EXPECT_EQ(Take(), L"1 %s");
+    int written = 7;
+    EXPECT_EQ(acutPrintf(L"%n%d", &written, 2), RTNORM);
+    EXPECT_EQ(Take(), L"%n2");
+    EXPECT_EQ(written, 7);
+}
+
 TEST_F(Printing, LongTextIsWhole)
 {
     const std::wstring text(5000, L'长');
