@@ -47,7 +47,7 @@ void WaitThread::Run()
     const ULONGLONG start = GetTickCount64();
     if (WaitForSingleObject(m_closing, kShowDelay) == WAIT_OBJECT_0)
         return;
-    WaitWindow window(m_state, m_closing, start);
+    WaitWindow window(m_state, start);
     if (window.Create())
         Pump();
 }

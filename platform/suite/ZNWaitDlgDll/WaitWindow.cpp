@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <wchar.h>
+#include <windowsx.h>
 
+#include "suite/ZNWaitDlgDll/QuietButton.h"
 #include "suite/ZNWaitDlgDll/WaitPlace.h"
 
 namespace
@@ -69,10 +71,15 @@ void MoveTo(HWND control, const RECT& rect)
     SetWindowPos(control, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
+
+bool IsMouseDown()
+{
+    return (GetAsyncKeyState(GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON) & 0x8000) != 0;
+}
 } // namespace
 
-WaitWindow::WaitWindow(wait::State& state, HANDLE closing, ULONGLONG start)
-    : m_state(state), m_closing(closing), m_start(start), m_font(MakeFont(kFontPoints, FW_NORMAL)),
+WaitWindow::WaitWindow(wait::State& state, ULONGLONG start)
+    : m_state(state), m_start(start), m_font(MakeFont(kFontPoints, FW_NORMAL)),
       m_headingFont(MakeFont(kHeadingPoints, FW_BOLD))
 {
     m_metrics.dpi = ScreenDpi();
@@ -133,10 +140,14 @@ LRESULT WaitWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
-    case WM_NCHITTEST:
-        return HTCAPTION; // what is no control moves the window
-    case WM_EXITSIZEMOVE:
-        m_moved = true;
+    case WM_LBUTTONDOWN:
+        BeginDrag({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        return 0;
+    case WM_MOUSEMOVE:
+        Drag();
+        return 0;
+    case WM_LBUTTONUP:
+        ReleaseCapture();
         return 0;
     case WM_ERASEBKGND:
         PaintBackground(reinterpret_cast<HDC>(wParam));
@@ -163,7 +174,7 @@ void WaitWindow::MakeControls()
     MakeControl(L"STATIC", L"", SS_OWNERDRAW | WS_VISIBLE, LinesId, m_font.Get());
     MakeControl(L"STATIC", L"", SS_OWNERDRAW | WS_VISIBLE, BarId, m_font.Get());
     MakeControl(L"STATIC", L"", SS_LEFT | SS_NOPREFIX | WS_VISIBLE, ElapsedId, m_font.Get());
-    MakeControl(L"BUTTON", kCancel, BS_PUSHBUTTON, CancelId, m_font.Get());
+    wait::MakeQuiet(MakeControl(L"BUTTON", kCancel, BS_PUSHBUTTON, CancelId, m_font.Get()));
 }
 
 HWND WaitWindow::MakeControl(const wchar_t* className, const wchar_t* text, DWORD style, int id, HFONT font)
@@ -189,12 +200,7 @@ int WaitWindow::HeightOf(HFONT font) const
 
 void WaitWindow::OnBeat()
 {
-    // The thread waits for this event too, but not while the user drags the window.
-    if (WaitForSingleObject(m_closing, 0) == WAIT_OBJECT_0)
-    {
-        SendMessageW(m_window, WM_CANCELMODE, 0, 0);
-        return;
-    }
+    FollowMouse();
     TakeText();
     ShowTime();
     ShowCancel();
@@ -264,6 +270,39 @@ void WaitWindow::Place()
     const POINT place = wait::CentredOver(over, size, wait::WorkAreaOf(over));
     if (place.x != now.left || place.y != now.top)
         SetWindowPos(m_window, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// The system's own dragging by a caption would activate the window.
+void WaitWindow::BeginDrag(POINT grip)
+{
+    m_grip = grip;
+    SetCapture(m_window);
+}
+
+// A thread in the background is not told of every move, nor always of the release.
+void WaitWindow::FollowMouse()
+{
+    const HWND holder = GetCapture();
+    if (holder != nullptr && !IsMouseDown())
+        ReleaseCapture();
+    else if (holder == m_window)
+        Drag();
+}
+
+void WaitWindow::Drag()
+{
+    if (GetCapture() != m_window)
+        return;
+    POINT cursor = {};
+    GetCursorPos(&cursor);
+    ScreenToClient(m_window, &cursor);
+    if (cursor.x == m_grip.x && cursor.y == m_grip.y)
+        return;
+    RECT now = {};
+    GetWindowRect(m_window, &now);
+    m_moved = true;
+    SetWindowPos(m_window, nullptr, now.left + cursor.x - m_grip.x, now.top + cursor.y - m_grip.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void WaitWindow::OnCancel()

@@ -24,8 +24,8 @@ public:
         CancelId = IDCANCEL
     };
 
-    // `closing`: the event that tells that the window has to go. `start`: since when time counts, GetTickCount64.
-    WaitWindow(wait::State& state, HANDLE closing, ULONGLONG start);
+    // `start`: since when time counts, GetTickCount64.
+    WaitWindow(wait::State& state, ULONGLONG start);
     ~WaitWindow();
     WaitWindow(const WaitWindow&) = delete;
     WaitWindow& operator=(const WaitWindow&) = delete;
@@ -48,6 +48,9 @@ private:
     void ShowCancel();
     void MakeRoom(int lineCount);
     void Place();
+    void BeginDrag(POINT grip);
+    void FollowMouse();
+    void Drag();
     void OnCancel();
 
     void PaintBackground(HDC dc) const;
@@ -56,7 +59,6 @@ private:
     void DrawBar(HDC dc, const RECT& area) const;
 
     wait::State& m_state;
-    const HANDLE m_closing;
     const ULONGLONG m_start;
     const arxui::GdiObject<HFONT> m_font;
     const arxui::GdiObject<HFONT> m_headingFont;
@@ -67,5 +69,6 @@ private:
     std::wstring m_elapsed;
     int m_room = 0;       // lines that the window has room for; it never shrinks, or it would jump at every line
     unsigned m_beats = 0; // since the window was made
+    POINT m_grip = {};    // where the user holds the window, client coordinates
     bool m_moved = false; // by the user
 };
