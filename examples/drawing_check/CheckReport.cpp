@@ -18,13 +18,15 @@ const wchar_t* const kFlatTexts = L"文字高度为零";
 const wchar_t* const kOutside = L"超出图幅";
 const wchar_t* const kMissing = L"缺少引用";
 const wchar_t* const kSummary = L"检查结果";
+const wchar_t* const kDigest = L"检查摘要";
 } // namespace group
 
 namespace
 {
 
-const wchar_t* const kAllGroups[] = {group::kZeroLength, group::kDuplicates, group::kGaps,    group::kNearlyClosed,
-                                     group::kFlatTexts,  group::kOutside,    group::kMissing, group::kSummary};
+const wchar_t* const kAllGroups[] = {group::kZeroLength,   group::kDuplicates, group::kGaps,
+                                     group::kNearlyClosed, group::kFlatTexts,  group::kOutside,
+                                     group::kMissing,      group::kSummary,    group::kDigest};
 
 // Ends that are apart by no more than this part of the drawing's diagonal were meant to meet.
 constexpr double kGapPart = 0.0005;
@@ -89,7 +91,7 @@ double GapTolerance(const Drawing& drawing)
     return kGapPart * Distance(all.min, all.max);
 }
 
-int ReportZeroLength(const Drawing& drawing)
+int ReportZeroLength(const Drawing& drawing, const Stop&)
 {
     const std::vector<std::size_t> found = FindZeroLength(drawing.lines);
     for (std::size_t object : found)
@@ -99,9 +101,9 @@ int ReportZeroLength(const Drawing& drawing)
     return static_cast<int>(found.size());
 }
 
-int ReportDuplicates(const Drawing& drawing)
+int ReportDuplicates(const Drawing& drawing, const Stop& stop)
 {
-    const auto groups = FindDuplicates(drawing.descriptions);
+    const auto groups = FindDuplicates(drawing.descriptions, stop);
     for (const std::vector<std::size_t>& same : groups)
     {
         Ids ids;
@@ -115,9 +117,9 @@ int ReportDuplicates(const Drawing& drawing)
     return static_cast<int>(groups.size());
 }
 
-int ReportGaps(const Drawing& drawing, double tolerance)
+int ReportGaps(const Drawing& drawing, const Stop& stop)
 {
-    const std::vector<Gap> gaps = FindGaps(drawing.ends, tolerance);
+    const std::vector<Gap> gaps = FindGaps(drawing.ends, GapTolerance(drawing), stop);
     for (const Gap& gap : gaps)
     {
         const AcDbExtents extents = ExtentsAround(gap.firstEnd, gap.secondEnd, gap.width * kGapRoom);
@@ -128,9 +130,9 @@ int ReportGaps(const Drawing& drawing, double tolerance)
     return static_cast<int>(gaps.size());
 }
 
-int ReportNearlyClosed(const Drawing& drawing, double tolerance)
+int ReportNearlyClosed(const Drawing& drawing, const Stop&)
 {
-    const std::vector<std::size_t> found = FindNearlyClosed(drawing.polylines, tolerance);
+    const std::vector<std::size_t> found = FindNearlyClosed(drawing.polylines, GapTolerance(drawing));
     for (std::size_t object : found)
     {
         AddMessage(KTMsgWnd::eWarning, group::kNearlyClosed, L"多段线的起点与终点几乎重合，但没有闭合",
@@ -139,7 +141,7 @@ int ReportNearlyClosed(const Drawing& drawing, double tolerance)
     return static_cast<int>(found.size());
 }
 
-int ReportFlatTexts(const Drawing& drawing)
+int ReportFlatTexts(const Drawing& drawing, const Stop&)
 {
     for (std::size_t object : drawing.flatTexts)
     {
@@ -149,7 +151,7 @@ int ReportFlatTexts(const Drawing& drawing)
     return static_cast<int>(drawing.flatTexts.size());
 }
 
-int ReportOutside(const Drawing& drawing)
+int ReportOutside(const Drawing& drawing, const Stop&)
 {
     if (!drawing.hasSheet)
     {
@@ -167,7 +169,7 @@ int ReportOutside(const Drawing& drawing)
     return static_cast<int>(found.size());
 }
 
-int ReportMissing(const Drawing& drawing)
+int ReportMissing(const Drawing& drawing, const Stop&)
 {
     for (const MissingReference& reference : drawing.missing)
     {
@@ -177,12 +179,37 @@ int ReportMissing(const Drawing& drawing)
     return static_cast<int>(drawing.missing.size());
 }
 
-void ReportSummary(const Drawing& drawing, int findings)
+struct Check
+{
+    const wchar_t* group;
+    int (*report)(const Drawing&, const Stop&); // answers the number of findings
+};
+
+const Check kChecks[] = {
+    {group::kZeroLength, &ReportZeroLength},
+    {group::kDuplicates, &ReportDuplicates},
+    {group::kGaps, &ReportGaps},
+    {group::kNearlyClosed, &ReportNearlyClosed},
+    {group::kFlatTexts, &ReportFlatTexts},
+    {group::kOutside, &ReportOutside},
+    {group::kMissing, &ReportMissing},
+};
+
+void ReportSummary(const Drawing& drawing, int findings, bool canceled)
 {
     const int objects = static_cast<int>(drawing.ids.size());
-    const std::wstring text = findings == 0 ? Format(L"检查完成：%d 个对象，没有发现问题", objects)
-                                            : Format(L"检查完成：%d 个对象，发现 %d 处问题", objects, findings);
-    KTMsgWnd::AddMsg(KTMsgWnd::eInfo, group::kSummary, text.c_str(), true, nullptr, nullptr);
+    const wchar_t* const state = canceled ? L"检查已取消" : L"检查完成";
+    const std::wstring text = findings == 0 ? Format(L"%ls：%d 个对象，没有发现问题", state, objects)
+                                            : Format(L"%ls：%d 个对象，发现 %d 处问题", state, objects, findings);
+    KTMsgWnd::AddMsg(canceled ? KTMsgWnd::eWarning : KTMsgWnd::eInfo, group::kSummary, text.c_str(), true, nullptr,
+                     nullptr);
+}
+
+void ReportCount(int findings)
+{
+    const std::wstring text = Format(L"检查摘要：共 %d 处问题", findings);
+    ZNKTPub::ReportMsg(findings == 0 ? CMsgCallback::eInfo : CMsgCallback::eWarning, group::kDigest, text.c_str(),
+                       true);
 }
 
 } // namespace
@@ -195,14 +222,38 @@ void RemoveOldMessages()
     }
 }
 
-int ReportFindings(const Drawing& drawing)
+int ReportFindings(const Drawing& drawing, CMsgCallback& progress)
 {
-    const double tolerance = GapTolerance(drawing);
-    const int findings = ReportZeroLength(drawing) + ReportDuplicates(drawing) + ReportGaps(drawing, tolerance) +
-                         ReportNearlyClosed(drawing, tolerance) + ReportFlatTexts(drawing) + ReportOutside(drawing) +
-                         ReportMissing(drawing);
-    ReportSummary(drawing, findings);
+    const Stop stop = [&progress] { return progress.IsCanceled(); };
+    const int count = static_cast<int>(std::size(kChecks));
+    int findings = 0;
+    for (int i = 0; i < count && !stop(); ++i)
+    {
+        progress.WaitDlgModiLastMsg(Format(L"检查 %d/%d：%ls", i + 1, count, kChecks[i].group).c_str());
+        findings += kChecks[i].report(drawing, stop);
+    }
+    ReportSummary(drawing, findings, stop());
     return findings;
+}
+
+void ReportSummaryOfMessages()
+{
+    if (KTMsgWnd::GetMsgCount(group::kSummary) == 0)
+    {
+        ZNKTPub::ReportMsg(CMsgCallback::eWarning, group::kDigest, L"当前图形还没有检查过，请先运行“检查图形”", true);
+        return;
+    }
+    int findings = 0;
+    for (const Check& check : kChecks)
+    {
+        const int count = KTMsgWnd::GetMsgCount(check.group);
+        if (count == 0)
+            continue;
+        const std::wstring text = Format(L"%ls：%d 处", check.group, count);
+        ZNKTPub::ReportMsg(CMsgCallback::eWarning, group::kDigest, text.c_str(), true);
+        findings += count;
+    }
+    ReportCount(findings);
 }
 
 } // namespace drawing_check

@@ -10,6 +10,26 @@ namespace drawing_check
 namespace
 {
 
+// Asks whether to stop for every so many steps only, which costs next to nothing.
+class StopPoll
+{
+public:
+    explicit StopPoll(const Stop& stop) : m_stop(stop) {}
+
+    bool operator()()
+    {
+        constexpr unsigned kSteps = 256;
+        if (!m_stopped && m_steps++ % kSteps == 0)
+            m_stopped = m_stop && m_stop();
+        return m_stopped;
+    }
+
+private:
+    const Stop& m_stop;
+    unsigned m_steps = 0;
+    bool m_stopped = false;
+};
+
 struct End
 {
     std::size_t curve;
@@ -98,11 +118,11 @@ std::vector<End> EndsOf(const std::vector<OpenCurve>& curves)
 }
 
 // The ends at which no other end lies.
-std::vector<End> FreeEnds(const std::vector<End>& ends, double side)
+std::vector<End> FreeEnds(const std::vector<End>& ends, double side, StopPoll& stop)
 {
     const EndGrid grid(ends, side);
     std::vector<End> free;
-    for (std::size_t i = 0; i < ends.size(); ++i)
+    for (std::size_t i = 0; i < ends.size() && !stop(); ++i)
     {
         bool joined = false;
         grid.VisitNear(ends[i].point, [&](std::size_t other) {
@@ -148,11 +168,12 @@ std::vector<std::size_t> FindZeroLength(const std::vector<OpenCurve>& lines)
     return found;
 }
 
-std::vector<std::vector<std::size_t>> FindDuplicates(const std::vector<std::string>& descriptions)
+std::vector<std::vector<std::size_t>> FindDuplicates(const std::vector<std::string>& descriptions, const Stop& stop)
 {
     std::unordered_map<std::string, std::size_t> groupOf;
     std::vector<std::vector<std::size_t>> groups;
-    for (std::size_t i = 0; i < descriptions.size(); ++i)
+    StopPoll poll(stop);
+    for (std::size_t i = 0; i < descriptions.size() && !poll(); ++i)
     {
         const auto [position, isNew] = groupOf.emplace(descriptions[i], groups.size());
         if (isNew)
@@ -166,13 +187,14 @@ std::vector<std::vector<std::size_t>> FindDuplicates(const std::vector<std::stri
     return groups;
 }
 
-std::vector<Gap> FindGaps(const std::vector<OpenCurve>& curves, double tolerance)
+std::vector<Gap> FindGaps(const std::vector<OpenCurve>& curves, double tolerance, const Stop& stop)
 {
     const double side = std::max(tolerance, kSamePoint);
-    const std::vector<End> free = FreeEnds(EndsOf(curves), side);
+    StopPoll poll(stop);
+    const std::vector<End> free = FreeEnds(EndsOf(curves), side, poll);
     const EndGrid grid(free, side);
     std::vector<Gap> gaps;
-    for (std::size_t i = 0; i < free.size(); ++i)
+    for (std::size_t i = 0; i < free.size() && !poll(); ++i)
     {
         grid.VisitNear(free[i].point, [&](std::size_t other) {
             const double width = Distance(free[i].point, free[other].point);

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -50,15 +51,20 @@ constexpr std::size_t kMostGaps = 10000;
 
 double Distance(Point a, Point b);
 
+// Asked now and then by the checks that take long on a large drawing: true ends the check with what it has found so
+// far. An empty one never does.
+using Stop = std::function<bool()>;
+
 // Indices of the curves whose two ends coincide.
 std::vector<std::size_t> FindZeroLength(const std::vector<OpenCurve>& lines);
 
 // Groups of equal descriptions, two or more indices in each, in the order of their first member.
-std::vector<std::vector<std::size_t>> FindDuplicates(const std::vector<std::string>& descriptions);
+std::vector<std::vector<std::size_t>> FindDuplicates(const std::vector<std::string>& descriptions,
+                                                     const Stop& stop = Stop());
 
 // Pairs of free ends that are apart, but not farther than `tolerance`. An end that coincides with another end is
 // joined and no longer free; the two ends of one curve are never paired. At most kMostGaps pairs.
-std::vector<Gap> FindGaps(const std::vector<OpenCurve>& curves, double tolerance);
+std::vector<Gap> FindGaps(const std::vector<OpenCurve>& curves, double tolerance, const Stop& stop = Stop());
 
 // Indices of the open curves whose own ends are apart, but not farther than `tolerance`.
 std::vector<std::size_t> FindNearlyClosed(const std::vector<OpenCurve>& polylines, double tolerance);

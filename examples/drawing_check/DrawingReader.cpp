@@ -53,14 +53,15 @@ class Reader
 public:
     explicit Reader(AcDbDatabase& database) { ReadSheet(database); }
 
-    void ReadModelSpace(AcDbDatabase& database)
+    void ReadModelSpace(AcDbDatabase& database, const ReadStop& stop)
     {
         const Opened<AcDbBlockTableRecord> space = Open<AcDbBlockTableRecord>(database.currentSpaceId());
         AcDbBlockTableRecordIterator* made = nullptr;
         if (!space || space->newIterator(made) != Acad::eOk)
             return;
         const std::unique_ptr<AcDbBlockTableRecordIterator> iterator(made);
-        for (; !iterator->done(); iterator->step())
+        const std::size_t all = Count(*iterator);
+        for (std::size_t read = 0; !iterator->done() && !(stop && stop(read, all)); iterator->step(), ++read)
         {
             AcDbEntity* entity = nullptr;
             if (iterator->getEntity(entity, AcDb::kForRead) == Acad::eOk)
@@ -71,6 +72,15 @@ public:
     Drawing Take() { return std::move(m_drawing); }
 
 private:
+    static std::size_t Count(AcDbBlockTableRecordIterator& iterator)
+    {
+        std::size_t count = 0;
+        for (; !iterator.done(); iterator.step())
+            ++count;
+        iterator.start();
+        return count;
+    }
+
     void ReadSheet(AcDbDatabase& database)
     {
         m_drawing.sheet = {{database.limmin().x, database.limmin().y}, {database.limmax().x, database.limmax().y}};
@@ -155,10 +165,10 @@ private:
 
 } // namespace
 
-Drawing ReadDrawing(AcDbDatabase& database)
+Drawing ReadDrawing(AcDbDatabase& database, const ReadStop& stop)
 {
     Reader reader(database);
-    reader.ReadModelSpace(database);
+    reader.ReadModelSpace(database, stop);
     return reader.Take();
 }
 

@@ -5,6 +5,7 @@
 
 #include <dbmain.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,7 +36,10 @@ struct Drawing
     bool hasSheet = false;
 };
 
+// Told how many of the entities have been read; true ends the reading with those.
+using ReadStop = std::function<bool(std::size_t read, std::size_t all)>;
+
 // Reads the database. An entity that cannot be opened is left out.
-Drawing ReadDrawing(AcDbDatabase& database);
+Drawing ReadDrawing(AcDbDatabase& database, const ReadStop& stop = ReadStop());
 
 } // namespace drawing_check

@@ -1,4 +1,4 @@
-﻿// The module's entry: registers the command while the module is loaded.
+﻿// The module's entry: registers the commands while the module is loaded.
 #include "CheckCommand.h"
 
 #include <accmd.h>
@@ -8,7 +8,21 @@
 namespace
 {
 const wchar_t* const kGroup = L"DRAWING_CHECK";
-}
+
+struct Command
+{
+    const wchar_t* name;
+    const wchar_t* localName;
+    void (*run)();
+};
+
+const Command kCommands[] = {
+    {L"CHECKDRAWING", L"检查图形", &drawing_check::CheckDrawing},
+    {L"CHECKSUMMARYBOX", L"检查摘要框", &drawing_check::SummaryInBox},
+    {L"CHECKSUMMARYLINE", L"检查摘要行", &drawing_check::SummaryOnCommandLine},
+    {L"CHECKSUMMARYPANEL", L"检查摘要面板", &drawing_check::SummaryInPanel},
+};
+} // namespace
 
 class CDrawingCheckApp : public AcRxArxApp
 {
@@ -16,7 +30,8 @@ public:
     virtual AcRx::AppRetCode On_kInitAppMsg(void* packet)
     {
         const AcRx::AppRetCode result = AcRxArxApp::On_kInitAppMsg(packet);
-        acedRegCmds->addCommand(kGroup, L"CHECKDRAWING", L"检查图形", ACRX_CMD_MODAL, &drawing_check::CheckDrawing);
+        for (const Command& command : kCommands)
+            acedRegCmds->addCommand(kGroup, command.name, command.localName, ACRX_CMD_MODAL, command.run);
         return result;
     }
 

@@ -114,3 +114,29 @@ TEST(DrawingChecks, BoxesOutsideTheSheetAreFoundAndTouchingOnesAreNot)
         {{0, 0}, {420, 297}}, {{400, 10}, {430, 20}}, {{-1, 5}, {2, 6}}, {{5, 5}, {6, 298}}};
     EXPECT_EQ(FindOutside(boxes, sheet), (std::vector<std::size_t>{1, 2, 3}));
 }
+
+TEST(DrawingChecks, StoppingEndsACheckWithWhatItHasFound)
+{
+    std::vector<std::string> descriptions;
+    for (int i = 0; i < 10000; ++i)
+        descriptions.push_back(std::to_string(i / 2));
+    int asked = 0;
+    const auto groups = FindDuplicates(descriptions, [&asked] { return ++asked > 2; });
+    EXPECT_GT(groups.size(), 0u);
+    EXPECT_LT(groups.size(), 1000u);
+    EXPECT_EQ(3, asked) << "once told to stop it does not ask again";
+}
+
+TEST(DrawingChecks, StoppingAtOnceFindsNothing)
+{
+    const Stop atOnce = [] { return true; };
+    EXPECT_TRUE(FindDuplicates({"a", "a"}, atOnce).empty());
+    EXPECT_TRUE(FindGaps({Curve(0, 0, 0, 10, 0), Curve(1, 10.3, 0, 20, 0)}, kTolerance, atOnce).empty());
+}
+
+TEST(DrawingChecks, AskingWithoutStoppingChangesNothing)
+{
+    const Stop never = [] { return false; };
+    EXPECT_EQ(1u, FindDuplicates({"a", "a"}, never).size());
+    EXPECT_EQ(1u, FindGaps({Curve(0, 0, 0, 10, 0), Curve(1, 10.3, 0, 20, 0)}, kTolerance, never).size());
+}
