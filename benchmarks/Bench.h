@@ -57,6 +57,7 @@ private:
 // One file for each subject adds its figures.
 void MeasureMessageStore(Report& report);
 void MeasureMessageViewer(Report& report);
+void MeasureCallback(Report& report);
 void MeasureSortList(Report& report);
 void MeasureEditableList(Report& report);
 void MeasureSuperEdit(Report& report);

@@ -54,6 +54,7 @@ const Subject kSubjects[] = {
     {"trees", bench::MeasureTrees},
     {"rich-edit", bench::MeasureRichEdit},
     {"check-window", bench::MeasureCheckWindow},
+    {"callback", bench::MeasureCallback},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)

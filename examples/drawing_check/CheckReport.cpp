@@ -155,7 +155,7 @@ int ReportOutside(const Drawing& drawing, const Stop&)
 {
     if (!drawing.hasSheet)
     {
-        KTMsgWnd::AddMsg(KTMsgWnd::eInfo, group::kOutside, L"图形没有设置图幅界限，未检查超出图幅的对象", true, nullptr,
+        KTMsgWnd::AddMsg(KTMsgWnd::eInfo, group::kSummary, L"图形没有设置图幅界限，未检查超出图幅的对象", true, nullptr,
                          nullptr);
         return 0;
     }

@@ -121,21 +121,26 @@ HBITMAP CopyScreen(const CRect& area)
 
 std::wstring SaveArea(CWnd& frame, const CRect& area, const std::wstring& path)
 {
+    EnumWindows(&PaintPopup, reinterpret_cast<LPARAM>(frame.m_hWnd));
+    GdiFlush();
+    LetPaintingReachScreen();
+    return SaveScreenShot(area, path);
+}
+
+} // namespace
+
+std::wstring SaveScreenShot(const CRect& area, const std::wstring& path)
+{
     const GdiPlusGuard gdiPlus;
     CLSID encoder{};
     if (!gdiPlus.IsStarted() || !FindPngEncoder(encoder))
         return L"系统不能生成 PNG 图片。";
-    EnumWindows(&PaintPopup, reinterpret_cast<LPARAM>(frame.m_hWnd));
-    GdiFlush();
-    LetPaintingReachScreen();
     const arxui::GdiObject<HBITMAP> shot(CopyScreen(area));
     Gdiplus::Bitmap picture(shot.Get(), nullptr);
     if (picture.Save(path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
         return L"无法写入图片“" + path + L"”。";
     return std::wstring();
 }
-
-} // namespace
 
 CRect AreaWithPopups(HWND window)
 {

@@ -15,6 +15,9 @@ std::wstring SaveFrameShot(CWnd& frame, const std::wstring& path);
 // The same of one dialog alone, see FindDialog().
 std::wstring SaveDialogShot(CWnd& frame, const std::wstring& title, const std::wstring& path);
 
+// Saves that part of the screen as it stands; nothing is asked to paint. May be called from any thread.
+std::wstring SaveScreenShot(const CRect& area, const std::wstring& path);
+
 // The smallest rectangle of the screen that holds the window and the visible popups it owns.
 CRect AreaWithPopups(HWND window);
 

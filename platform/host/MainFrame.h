@@ -8,6 +8,7 @@
 #include "arx/ed/HostServices.h"
 #include "host/CommandPanel.h"
 #include "host/DocumentTabs.h"
+#include "host/ScreenWatch.h"
 #include "host/ScriptRunner.h"
 #include "host/StatusStrip.h"
 #include "host/ViewTransform.h"
@@ -38,6 +39,7 @@ public:
     CommandPanel& Command() { return m_command; }
     StatusStrip& Status() { return m_status; }
     ScriptRunner& Scripts() { return m_scripts; }
+    ScreenWatch& Watch() { return m_watch; }
     // NULL without a document; NeedView throws CommandFailure then.
     DrawingView* ActiveView();
     DrawingView& NeedView();
@@ -90,6 +92,7 @@ private:
     CommandPanel m_command;
     DocumentTabs m_tabs;
     ScriptRunner m_scripts;
+    ScreenWatch m_watch;
     std::map<AcApDocument*, DrawingFrame*> m_drawings;
     std::unique_ptr<HostBridge> m_bridge;
     bool m_unattended = false;

@@ -1,4 +1,4 @@
-﻿// ARX SCRIPT DELAY SHOT HELP QUIT: commands on the program.
+﻿// ARX SCRIPT DELAY SHOT WATCH HELP QUIT: commands on the program.
 #include "host/FilePrompt.h"
 #include "host/FrameShot.h"
 #include "host/HostCommands.h"
@@ -15,6 +15,7 @@ const wchar_t arxUsage[] = L"ARX（模块） L 模块.arx | U 模块.arx | ?：�
 const wchar_t scriptUsage[] = L"SCRIPT（脚本） 文件.scr：逐行运行脚本";
 const wchar_t delayUsage[] = L"DELAY（延时） 毫秒：脚本暂停一段时间";
 const wchar_t shotUsage[] = L"SHOT（画面） 文件.png [对话框标题]：把窗口和浮动面板，或者一个对话框，保存为图片";
+const wchar_t watchUsage[] = L"WATCH（守候） 窗口标题 文件.png | END：后面的命令显示该窗口时保存画面 | 等画面保存完";
 const wchar_t helpUsage[] = L"HELP（帮助、?）：命令列表";
 const wchar_t quitUsage[] = L"QUIT（退出）：结束程序";
 
@@ -80,6 +81,16 @@ void Shot(MainFrame& frame, const Words& words)
     frame.Command().Print(L"画面已保存：" + path + L"\n");
 }
 
+void Watch(MainFrame& frame, const Words& words)
+{
+    const bool end = HasName(L"END,结束", NeedWord(words, 0, watchUsage));
+    if (!end)
+        return frame.Watch().Start(frame.m_hWnd, words[0], NeedWord(words, 1, watchUsage));
+    const std::wstring error = frame.Watch().Finish();
+    if (!error.empty())
+        throw CommandFailure{error};
+}
+
 void Help(MainFrame& frame, const Words& /*words*/)
 {
     frame.Command().Print(CommandHelp());
@@ -98,7 +109,8 @@ std::vector<HostCommand> ProgramCommands()
     return {
         {L"ARX,APPLOAD,模块", arxUsage, &Arx}, {L"SCRIPT,SCR,脚本", scriptUsage, &Script},
         {L"DELAY,延时", delayUsage, &Delay},   {L"SHOT,画面", shotUsage, &Shot},
-        {L"HELP,?,帮助", helpUsage, &Help},    {L"QUIT,EXIT,退出", quitUsage, &Quit},
+        {L"WATCH,守候", watchUsage, &Watch},   {L"HELP,?,帮助", helpUsage, &Help},
+        {L"QUIT,EXIT,退出", quitUsage, &Quit},
     };
 }
 

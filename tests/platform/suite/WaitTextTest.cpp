@@ -55,6 +55,21 @@ TEST(WaitText, KeepsTheLastLines)
         EXPECT_EQ(row.kept, LastLines(row.text.c_str())) << row.name;
 }
 
+TEST(WaitText, FindsTheEndOfATextOfAnyLengthAtAnyAddress)
+{
+    const std::wstring text(40, L'x');
+    for (size_t offset = 0; offset < 16; ++offset)
+    {
+        for (size_t length = 0; length + offset <= text.size(); ++length)
+        {
+            std::wstring copy = text;
+            copy[offset + length < copy.size() ? offset + length : copy.size() - 1] = L'\0';
+            const wchar_t* const begin = copy.c_str() + offset;
+            EXPECT_EQ(std::wstring(begin), LastLines(begin)) << offset << "+" << length;
+        }
+    }
+}
+
 TEST(WaitText, NullIsNoText)
 {
     EXPECT_EQ(L"", LastLines(nullptr));
