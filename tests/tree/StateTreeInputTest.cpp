@@ -1,6 +1,8 @@
 // The check tree under a real mouse and keyboard.
 #include "StateTreeFixture.h"
 
+#include "RealMouse.h"
+
 namespace
 {
 
@@ -24,12 +26,13 @@ protected:
         m_tree.UpdateWindow();
     }
 
-    static void SendMouse(DWORD flags)
+    // The tree's own point on the screen travels with the press: the display may take the cursor back in between.
+    void Press(CPoint point)
     {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        ::SendInput(1, &input, sizeof(input));
+        PutUnderCursor(point);
+        m_tree.ClientToScreen(&point);
+        SendMouse(point, MOUSEEVENTF_LEFTDOWN);
+        SendMouse(point, MOUSEEVENTF_LEFTUP);
     }
 
     static void SendKey(WORD key)
@@ -51,9 +54,7 @@ protected:
         const int attempts = 5;
         for (int i = 0; i < attempts; ++i)
         {
-            PutUnderCursor(point);
-            SendMouse(MOUSEEVENTF_LEFTDOWN);
-            SendMouse(MOUSEEVENTF_LEFTUP);
+            Press(point);
             // Longer than a double click takes, so that the next one is a click of its own.
             if (WaitFor([&] { return m_owner.told.size() > before; }, 2 * ::GetDoubleClickTime()))
                 return true;
@@ -102,9 +103,7 @@ TEST_F(StateTreeInput, AClickOnALabelOnlyTellsTheClickAndSelects)
 
 TEST_F(StateTreeInput, AClickOnADisabledBoxTellsNothing)
 {
-    PutUnderCursor(BoxOf(m_children[2]));
-    SendMouse(MOUSEEVENTF_LEFTDOWN);
-    SendMouse(MOUSEEVENTF_LEFTUP);
+    Press(BoxOf(m_children[2]));
     // A click on a label after it shows that the first one has been worked on.
     LetDoubleClickPass();
     ASSERT_TRUE(ClickUntilTold(LabelOf(m_children[1])));
