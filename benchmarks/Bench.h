@@ -58,6 +58,7 @@ private:
 void MeasureMessageStore(Report& report);
 void MeasureMessageViewer(Report& report);
 void MeasureCallback(Report& report);
+void MeasureDrawingCheck(Report& report);
 void MeasureSortList(Report& report);
 void MeasureEditableList(Report& report);
 void MeasureSuperEdit(Report& report);

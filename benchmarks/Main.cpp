@@ -55,6 +55,7 @@ const Subject kSubjects[] = {
     {"rich-edit", bench::MeasureRichEdit},
     {"check-window", bench::MeasureCheckWindow},
     {"callback", bench::MeasureCallback},
+    {"drawing-check", bench::MeasureDrawingCheck},
 };
 
 bool IsWanted(const char* name, const std::vector<std::string>& wanted)

@@ -1,5 +1,7 @@
 ﻿#include "CheckReport.h"
 
+#include "StopPoll.h"
+
 #include <KTMsgWnd.h>
 
 #include <algorithm>
@@ -91,21 +93,35 @@ double GapTolerance(const Drawing& drawing)
     return kGapPart * Distance(all.min, all.max);
 }
 
-int ReportZeroLength(const Drawing& drawing, const Stop&)
+// Adds the message of each finding and answers how many. What is found is kept when the user cancels; only where the
+// findings are so many that adding them would make the user wait, the rest of them is left out.
+template<typename Findings, typename Add>
+int ReportEach(const Findings& findings, const Stop& stop, Add add)
 {
-    const std::vector<std::size_t> found = FindZeroLength(drawing.lines);
-    for (std::size_t object : found)
+    constexpr int kAlways = 10000;
+    StopPoll poll(stop);
+    int count = 0;
+    for (const auto& finding : findings)
     {
-        AddMessage(KTMsgWnd::eError, group::kZeroLength, L"直线的起点与终点重合", IdsOf(drawing, {object}), nullptr);
+        if (count >= kAlways && poll())
+            break;
+        add(finding);
+        ++count;
     }
-    return static_cast<int>(found.size());
+    return count;
+}
+
+int ReportZeroLength(const Drawing& drawing, const Stop& stop)
+{
+    return ReportEach(FindZeroLength(drawing.lines), stop, [&drawing](std::size_t object) {
+        AddMessage(KTMsgWnd::eError, group::kZeroLength, L"直线的起点与终点重合", IdsOf(drawing, {object}), nullptr);
+    });
 }
 
 int ReportDuplicates(const Drawing& drawing, const Stop& stop)
 {
     const auto groups = FindDuplicates(drawing.descriptions, stop);
-    for (const std::vector<std::size_t>& same : groups)
-    {
+    return ReportEach(groups, stop, [&drawing](const std::vector<std::size_t>& same) {
         Ids ids;
         for (std::size_t object : same)
         {
@@ -113,45 +129,38 @@ int ReportDuplicates(const Drawing& drawing, const Stop& stop)
         }
         AddMessage(KTMsgWnd::eWarning, group::kDuplicates, Format(L"%d 个对象完全重合", static_cast<int>(same.size())),
                    ids, nullptr);
-    }
-    return static_cast<int>(groups.size());
+    });
 }
 
 int ReportGaps(const Drawing& drawing, const Stop& stop)
 {
     const std::vector<Gap> gaps = FindGaps(drawing.ends, GapTolerance(drawing), stop);
-    for (const Gap& gap : gaps)
-    {
+    return ReportEach(gaps, stop, [&drawing](const Gap& gap) {
         const AcDbExtents extents = ExtentsAround(gap.firstEnd, gap.secondEnd, gap.width * kGapRoom);
         AddMessage(KTMsgWnd::eWarning, group::kGaps,
                    Format(L"两个端点相距 %.4f，位于 (%.2f, %.2f)", gap.width, gap.firstEnd.x, gap.firstEnd.y),
                    IdsOf(drawing, {gap.first, gap.second}), &extents);
-    }
-    return static_cast<int>(gaps.size());
+    });
 }
 
-int ReportNearlyClosed(const Drawing& drawing, const Stop&)
+int ReportNearlyClosed(const Drawing& drawing, const Stop& stop)
 {
     const std::vector<std::size_t> found = FindNearlyClosed(drawing.polylines, GapTolerance(drawing));
-    for (std::size_t object : found)
-    {
+    return ReportEach(found, stop, [&drawing](std::size_t object) {
         AddMessage(KTMsgWnd::eWarning, group::kNearlyClosed, L"多段线的起点与终点几乎重合，但没有闭合",
                    IdsOf(drawing, {object}), nullptr);
-    }
-    return static_cast<int>(found.size());
+    });
 }
 
-int ReportFlatTexts(const Drawing& drawing, const Stop&)
+int ReportFlatTexts(const Drawing& drawing, const Stop& stop)
 {
-    for (std::size_t object : drawing.flatTexts)
-    {
+    return ReportEach(drawing.flatTexts, stop, [&drawing](std::size_t object) {
         AddMessage(KTMsgWnd::eError, group::kFlatTexts, L"文字的高度为零，图上看不见", IdsOf(drawing, {object}),
                    nullptr);
-    }
-    return static_cast<int>(drawing.flatTexts.size());
+    });
 }
 
-int ReportOutside(const Drawing& drawing, const Stop&)
+int ReportOutside(const Drawing& drawing, const Stop& stop)
 {
     if (!drawing.hasSheet)
     {
@@ -159,24 +168,19 @@ int ReportOutside(const Drawing& drawing, const Stop&)
                          nullptr);
         return 0;
     }
-    const std::vector<std::size_t> found = FindOutside(drawing.boxes, drawing.sheet);
-    for (std::size_t index : found)
-    {
+    return ReportEach(FindOutside(drawing.boxes, drawing.sheet), stop, [&drawing](std::size_t index) {
         const AcDbExtents extents = ExtentsOf(drawing.boxes[index]);
         AddMessage(KTMsgWnd::eWarning, group::kOutside, L"对象超出图幅界限", IdsOf(drawing, {drawing.boxed[index]}),
                    &extents);
-    }
-    return static_cast<int>(found.size());
+    });
 }
 
-int ReportMissing(const Drawing& drawing, const Stop&)
+int ReportMissing(const Drawing& drawing, const Stop& stop)
 {
-    for (const MissingReference& reference : drawing.missing)
-    {
+    return ReportEach(drawing.missing, stop, [&drawing](const MissingReference& reference) {
         AddMessage(KTMsgWnd::eError, group::kMissing, L"引用的" + reference.what + L"“" + reference.name + L"”不存在",
                    IdsOf(drawing, {reference.object}), nullptr);
-    }
-    return static_cast<int>(drawing.missing.size());
+    });
 }
 
 struct Check

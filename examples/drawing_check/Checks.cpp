@@ -1,5 +1,7 @@
 #include "Checks.h"
 
+#include "StopPoll.h"
+
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
@@ -9,26 +11,6 @@ namespace drawing_check
 
 namespace
 {
-
-// Asks whether to stop for every so many steps only, which costs next to nothing.
-class StopPoll
-{
-public:
-    explicit StopPoll(const Stop& stop) : m_stop(stop) {}
-
-    bool operator()()
-    {
-        constexpr unsigned kSteps = 256;
-        if (!m_stopped && m_steps++ % kSteps == 0)
-            m_stopped = m_stop && m_stop();
-        return m_stopped;
-    }
-
-private:
-    const Stop& m_stop;
-    unsigned m_steps = 0;
-    bool m_stopped = false;
-};
 
 struct End
 {
@@ -40,9 +22,9 @@ struct End
 class EndGrid
 {
 public:
-    EndGrid(const std::vector<End>& ends, double side) : m_ends(ends), m_side(side)
+    EndGrid(const std::vector<End>& ends, double side, StopPoll& stop) : m_ends(ends), m_side(side)
     {
-        for (std::size_t i = 0; i < ends.size(); ++i)
+        for (std::size_t i = 0; i < ends.size() && !stop(); ++i)
         {
             m_cells[CellOf(ends[i].point)].push_back(i);
         }
@@ -120,7 +102,7 @@ std::vector<End> EndsOf(const std::vector<OpenCurve>& curves)
 // The ends at which no other end lies.
 std::vector<End> FreeEnds(const std::vector<End>& ends, double side, StopPoll& stop)
 {
-    const EndGrid grid(ends, side);
+    const EndGrid grid(ends, side, stop);
     std::vector<End> free;
     for (std::size_t i = 0; i < ends.size() && !stop(); ++i)
     {
@@ -192,7 +174,7 @@ std::vector<Gap> FindGaps(const std::vector<OpenCurve>& curves, double tolerance
     const double side = std::max(tolerance, kSamePoint);
     StopPoll poll(stop);
     const std::vector<End> free = FreeEnds(EndsOf(curves), side, poll);
-    const EndGrid grid(free, side);
+    const EndGrid grid(free, side, poll);
     std::vector<Gap> gaps;
     for (std::size_t i = 0; i < free.size() && !poll(); ++i)
     {

@@ -113,6 +113,20 @@ TEST_F(CheckReport, CancelLeavesOutTheRestAndKeepsWhatWasFound)
     EXPECT_EQ(1, KTMsgWnd::GetMsgCount(group::kSummary)) << "which says that it was cancelled";
 }
 
+TEST_F(CheckReport, CancelEndsTheAddingOfFarTooManyFindings)
+{
+    Drawing drawing;
+    const std::size_t lines = 30000;
+    drawing.ids.resize(lines);
+    for (std::size_t i = 0; i < lines; ++i)
+        drawing.lines.push_back({i, Point(), Point()});
+    ScriptedProgress progress(3); // while the findings of the first check are added
+    const int findings = ReportFindings(drawing, progress);
+    EXPECT_GE(findings, 10000) << "what was found is kept";
+    EXPECT_LT(findings, 11000);
+    EXPECT_EQ(findings, KTMsgWnd::GetMsgCount(group::kZeroLength));
+}
+
 TEST_F(CheckReport, ReadingEndsWhereItIsToldTo)
 {
     AddFaults();
