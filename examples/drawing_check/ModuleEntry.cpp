@@ -1,5 +1,6 @@
 ﻿// The module's entry: registers the commands while the module is loaded.
 #include "CheckCommand.h"
+#include "PickPointCommand.h"
 
 #include <accmd.h>
 #include <aced.h>
@@ -21,6 +22,7 @@ const Command kCommands[] = {
     {L"CHECKSUMMARYBOX", L"检查摘要框", &drawing_check::SummaryInBox},
     {L"CHECKSUMMARYLINE", L"检查摘要行", &drawing_check::SummaryOnCommandLine},
     {L"CHECKSUMMARYPANEL", L"检查摘要面板", &drawing_check::SummaryInPanel},
+    {L"PICKPOINT", L"拾取点", &drawing_check::PickPoint},
 };
 } // namespace
 

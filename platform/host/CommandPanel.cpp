@@ -126,6 +126,47 @@ bool CommandPanel::Ask(const std::wstring& prompt, std::wstring& answer)
     return !m_givenUp;
 }
 
+PointReply CommandPanel::AskPoint(const std::wstring& prompt, const CWnd& view, std::wstring& typed,
+                                  AcGePoint2d& picked)
+{
+    if (m_asking)
+        return PointReply::GivenUp;
+    m_pointView = &view;
+    m_isPicked = false;
+    const bool isAnswered = Ask(prompt, typed);
+    m_pointView = nullptr;
+    if (!isAnswered)
+        return PointReply::GivenUp;
+    picked = m_picked;
+    return m_isPicked ? PointReply::Picked : PointReply::Typed;
+}
+
+bool CommandPanel::TakePoint(const CWnd& view, WorldPoint place)
+{
+    if (!m_asking || m_pointView != &view)
+        return false;
+    m_picked = AcGePoint2d(place.x, place.y);
+    m_isPicked = true;
+    m_input.SetWindowText(L"");
+    Entered(L"");
+    return true;
+}
+
+bool CommandPanel::GiveUp()
+{
+    if (!m_asking)
+        return false;
+    m_input.SetWindowText(L"");
+    Escaped();
+    return true;
+}
+
+void CommandPanel::ForgetView(const CWnd& view)
+{
+    if (m_pointView == &view)
+        GiveUp();
+}
+
 CSize CommandPanel::CalcFixedLayout(BOOL /*stretch*/, BOOL /*horizontal*/)
 {
     const int unlimited = 32767;

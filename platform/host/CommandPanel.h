@@ -3,7 +3,9 @@
 
 #include <afxext.h>
 
+#include "arx/ed/HostServices.h"
 #include "host/CommandEdit.h"
+#include "host/ViewTransform.h"
 
 #include <functional>
 #include <string>
@@ -31,6 +33,14 @@ public:
 
     // Shows the prompt and pumps messages until the user answers; false when given up or when the program ends.
     bool Ask(const std::wstring& prompt, std::wstring& answer);
+    // As Ask(), for a point; a click in the view answers as well.
+    PointReply AskPoint(const std::wstring& prompt, const CWnd& view, std::wstring& typed, AcGePoint2d& picked);
+    // The user clicked in the view; false when no point is asked for there.
+    bool TakePoint(const CWnd& view, WorldPoint place);
+    // Answers the question as Esc does; false when nothing is asked.
+    bool GiveUp();
+    // The view is about to go: nobody can pick a point in it any more.
+    void ForgetView(const CWnd& view);
     bool IsAsking() const { return m_asking; }
 
     CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
@@ -58,6 +68,9 @@ private:
     bool m_asking = false;
     bool m_givenUp = false;
     std::wstring m_answer;
+    const CWnd* m_pointView = nullptr; // while a point is asked for
+    bool m_isPicked = false;
+    AcGePoint2d m_picked;
 };
 
 } // namespace arxhost

@@ -58,7 +58,7 @@ void New(MainFrame& /*frame*/, const Words& words)
 
 void Close(MainFrame& frame, const Words& /*words*/)
 {
-    if (!CloseDocument(frame.NeedView().HostDocument()))
+    if (!frame.CloseDrawing(frame.NeedView().HostDocument()))
         throw CommandFailure{L"命令正在运行，不能关闭图形。"};
 }
 

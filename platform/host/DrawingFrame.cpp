@@ -29,7 +29,8 @@ int DrawingFrame::OnCreate(LPCREATESTRUCT create)
 
 void DrawingFrame::OnClose()
 {
-    if (!CloseDocument(m_drawing))
+    MainFrame* frame = MainFrame::Of(*this);
+    if (frame == NULL || !frame->CloseDrawing(m_drawing))
         acutPrintf(L"\n命令正在运行，不能关闭图形。\n");
 }
 

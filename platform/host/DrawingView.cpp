@@ -175,6 +175,8 @@ void DrawingView::OnMouseMove(UINT flags, CPoint point)
     }
     if (MainFrame* frame = MainFrame::Of(*this))
         frame->CursorOverDrawing(ToWorld(point));
+    const WorldPoint place = ToWorld(point);
+    TellCursor(m_drawing, AcGePoint2d(place.x, place.y));
 }
 
 BOOL DrawingView::OnMouseWheel(UINT /*flags*/, short delta, CPoint point)
@@ -189,6 +191,9 @@ BOOL DrawingView::OnMouseWheel(UINT /*flags*/, short delta, CPoint point)
 void DrawingView::OnLButtonDown(UINT flags, CPoint point)
 {
     CView::OnLButtonDown(flags, point);
+    MainFrame* frame = MainFrame::Of(*this);
+    if (frame != NULL && frame->Command().TakePoint(*this, ToWorld(point)))
+        return;
     const bool takeOut = (flags & MK_SHIFT) != 0;
     if (m_band.IsActive())
     {
@@ -246,7 +251,7 @@ void DrawingView::OnChar(UINT character, UINT repeat, UINT flags)
 void DrawingView::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     MainFrame* frame = MainFrame::Of(*this);
-    if (key == VK_ESCAPE)
+    if (key == VK_ESCAPE && (frame == NULL || !frame->Command().GiveUp()))
         CancelSelection();
     else if (key == VK_DELETE && frame != NULL)
         frame->Run(L"ERASE");

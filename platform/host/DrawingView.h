@@ -2,8 +2,8 @@
 //
 // Middle button drags the picture, its double click shows everything; the wheel zooms at the cursor. A left click picks
 // the object under the cursor (Shift takes it out of the selection); where there is none it starts a selection window,
-// which a second click or the release after a drag ends. Esc gives up the window, then the selection. Keys go to the
-// command line.
+// which a second click or the release after a drag ends. Esc gives up the window, then the selection. While a command
+// asks for a point, a left click answers it. Keys go to the command line.
 #pragma once
 
 #include <afxwin.h>

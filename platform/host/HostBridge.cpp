@@ -43,6 +43,19 @@ bool HostBridge::GetString(const wchar_t* prompt, bool /*wholeLine*/, std::wstri
     return !m_frame.IsUnattended() && m_frame.Command().Ask(prompt, answer);
 }
 
+PointReply HostBridge::GetPoint(const wchar_t* prompt, std::wstring& typed, AcGePoint2d& picked)
+{
+    const DrawingView* view = m_frame.ViewOf(acDocManager->curDocument());
+    if (view == NULL || m_frame.IsUnattended())
+        return PointReply::GivenUp;
+    return m_frame.Command().AskPoint(prompt, *view, typed, picked);
+}
+
+CView* HostBridge::CurrentView()
+{
+    return m_frame.ViewOf(acDocManager->curDocument());
+}
+
 bool HostBridge::SelectObjects(ObjectIds& ids)
 {
     DrawingView* view = m_frame.ActiveView();

@@ -25,6 +25,8 @@ public:
     void Print(const wchar_t* text) override;
 
     bool GetString(const wchar_t* prompt, bool wholeLine, std::wstring& answer) override;
+    PointReply GetPoint(const wchar_t* prompt, std::wstring& typed, AcGePoint2d& picked) override;
+    CView* CurrentView() override;
     bool SelectObjects(ObjectIds& ids) override;
     void InputPending() override;
     void UpdateDisplay() override;

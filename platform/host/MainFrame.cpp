@@ -23,6 +23,9 @@ const int screenMargin = 20;
 const int largestWidth = 1400;
 const int largestHeight = 960;
 
+// Posted to the frame: the document of the LPARAM closes once its command has ended.
+const UINT closeDrawingMessage = WM_APP + 2;
+
 struct MenuLine
 {
     UINT id;
@@ -58,6 +61,7 @@ BEGIN_MESSAGE_MAP(MainFrame, CMDIFrameWnd)
     ON_WM_CLOSE()
     ON_WM_SETFOCUS()
     ON_MESSAGE(HostBridge::pendingInputMessage, &MainFrame::OnPendingInput)
+    ON_MESSAGE(closeDrawingMessage, &MainFrame::OnCloseDrawing)
     ON_COMMAND_RANGE(ID_HOST_FIRST, ID_HOST_LAST, &MainFrame::OnMenuCommand)
     ON_COMMAND_RANGE(ID_WINDOW_CASCADE, ID_WINDOW_TILE_VERT, &MainFrame::OnWindowCommand)
 END_MESSAGE_MAP()
@@ -157,6 +161,14 @@ void MainFrame::CursorOverDrawing(WorldPoint place)
     m_command.FocusInput();
 }
 
+bool MainFrame::CloseDrawing(AcApDocument* document)
+{
+    if (document->isQuiescent() || !m_command.GiveUp())
+        return CloseDocument(document);
+    PostMessage(closeDrawingMessage, 0, reinterpret_cast<LPARAM>(document));
+    return true;
+}
+
 void MainFrame::DocumentCreated(AcApDocument* document)
 {
     DrawingFrame* drawing = new DrawingFrame(document);
@@ -174,6 +186,7 @@ void MainFrame::DocumentToBeDestroyed(AcApDocument* document)
     if (found == m_drawings.end())
         return;
     DrawingFrame* drawing = found->second;
+    m_command.ForgetView(drawing->View());
     m_drawings.erase(found);
     m_tabs.Remove(document);
     drawing->MDIDestroy();
@@ -244,6 +257,12 @@ void MainFrame::OnDestroy()
 
 void MainFrame::OnClose()
 {
+    // A command that waits for an answer is given up; the program ends after it.
+    if (m_command.GiveUp())
+    {
+        PostMessage(WM_CLOSE);
+        return;
+    }
     if (IsCommandActive())
     {
         m_command.Print(L"命令正在运行，不能退出。\n");
@@ -265,6 +284,14 @@ void MainFrame::OnSetFocus(CWnd* oldWindow)
 LRESULT MainFrame::OnPendingInput(WPARAM /*wParam*/, LPARAM /*lParam*/)
 {
     RunPendingInput();
+    return 0;
+}
+
+LRESULT MainFrame::OnCloseDrawing(WPARAM /*wParam*/, LPARAM lParam)
+{
+    AcApDocument* document = reinterpret_cast<AcApDocument*>(lParam);
+    if (IsDocument(document) && !CloseDrawing(document))
+        m_command.PrintLine(L"命令正在运行，不能关闭图形。");
     return 0;
 }
 

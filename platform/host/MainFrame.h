@@ -65,6 +65,10 @@ public:
     // line, unless a window keeps it.
     void CursorOverDrawing(WorldPoint place);
 
+    // Closes the drawing; when its command waits for an answer, the command is given up first and the drawing closed
+    // after it. False while the command does something else.
+    bool CloseDrawing(AcApDocument* document);
+
     // Documents as the host services tell them.
     void DocumentCreated(AcApDocument* document);
     void DocumentToBeDestroyed(AcApDocument* document);
@@ -80,6 +84,7 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnSetFocus(CWnd* oldWindow);
     afx_msg LRESULT OnPendingInput(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnCloseDrawing(WPARAM wParam, LPARAM lParam);
     afx_msg void OnMenuCommand(UINT id);
     afx_msg void OnWindowCommand(UINT id);
 

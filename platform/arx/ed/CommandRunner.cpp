@@ -2,6 +2,7 @@
 
 #include "DocumentManager.h"
 #include "HostState.h"
+#include "PointAnswer.h"
 #include "acutads.h"
 
 namespace arxed
@@ -176,6 +177,46 @@ bool CommandRunner::GetString(const ACHAR* prompt, bool wholeLine, std::wstring&
         return true;
     }
     return HostState::Instance().Ui().GetString(question, wholeLine, answer);
+}
+
+int CommandRunner::GetPoint(const ACHAR* prompt, ads_point result)
+{
+    std::wstring typed;
+    AcGePoint2d picked;
+    for (;;)
+    {
+        const arxhost::PointReply reply = AskPoint(prompt == nullptr ? L"" : prompt, typed, picked);
+        if (reply == arxhost::PointReply::GivenUp)
+        {
+            return RTCAN;
+        }
+        if (reply == arxhost::PointReply::Picked)
+        {
+            result[0] = picked.x;
+            result[1] = picked.y;
+            result[2] = 0;
+            return RTNORM;
+        }
+        if (typed.empty())
+        {
+            return RTNONE;
+        }
+        if (ReadPointAnswer(typed, result))
+        {
+            return RTNORM;
+        }
+        acutPrintf(L"\n点“%s”无效，请输入“X,Y”或在图中点取。\n", typed.c_str());
+    }
+}
+
+arxhost::PointReply CommandRunner::AskPoint(const ACHAR* prompt, std::wstring& typed, AcGePoint2d& picked)
+{
+    if (IsActive() && m_answers.back().Take(false, typed))
+    {
+        HostState::Instance().Print((prompt + typed + L"\n").c_str());
+        return arxhost::PointReply::Typed;
+    }
+    return HostState::Instance().Ui().GetPoint(prompt, typed, picked);
 }
 
 ApplicationContext::ApplicationContext() : m_documentDepth(CommandRunner::Instance().m_documentDepth)

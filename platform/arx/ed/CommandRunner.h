@@ -3,6 +3,7 @@
 
 #include "Answers.h"
 #include "CommandStack.h"
+#include "HostServices.h"
 
 #include <string>
 #include <vector>
@@ -27,11 +28,15 @@ public:
     // From the running command's answers, then from the user. False when given up.
     bool GetString(const ACHAR* prompt, bool wholeLine, std::wstring& answer);
 
+    // As acedGetPoint().
+    int GetPoint(const ACHAR* prompt, ads_point result);
+
 private:
     friend class ApplicationContext;
 
     CommandRunner() = default;
     bool Run(const Command& command, const std::wstring& answers);
+    arxhost::PointReply AskPoint(const ACHAR* prompt, std::wstring& typed, AcGePoint2d& picked);
     void Call(const Command& command, const std::wstring& answers, bool inDocument);
 
     // One entry a running command, the innermost last.

@@ -58,6 +58,7 @@ void Document::Close()
     previousSelection.clear();
     pendingInput.clear();
     m_locks.clear();
+    m_pointManager->Clear();
     m_database->removeReactor(this);
     m_database.reset();
 }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "HostServices.h"
+#include "InputPointManager.h"
 #include "ObjectSet.h"
 
 #include <memory>
@@ -29,6 +30,7 @@ public:
     AcAp::DocLockMode lockMode(bool includeMyLocks) const override;
     AcAp::DocLockMode myLockMode() const override;
     bool isQuiescent() const override { return m_runningCommands == 0; }
+    InputPointManager* inputPointManager() const override { return m_pointManager.get(); }
 
     // Gives up the drawing and all state.
     void Close();
@@ -55,6 +57,7 @@ private:
     const std::wstring m_title;
     const std::wstring m_path;
     std::unique_ptr<AcDbDatabase> m_database;
+    const std::unique_ptr<InputPointManager> m_pointManager{new InputPointManager};
     std::vector<AcAp::DocLockMode> m_locks;
     int m_runningCommands = 0;
 };

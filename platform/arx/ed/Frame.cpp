@@ -17,7 +17,7 @@ CDocument* acedGetAcadDoc()
 
 CView* acedGetAcadDwgView()
 {
-    return nullptr;
+    return arxed::HostState::Instance().Ui().CurrentView();
 }
 
 CMDIFrameWnd* acedGetAcadFrame()

@@ -156,6 +156,14 @@ bool SetView(AcApDocument* document, const ViewState& view)
     return true;
 }
 
+void TellCursor(AcApDocument* document, const AcGePoint2d& place)
+{
+    if (const Document* found = DocumentManager::Instance().Find(document))
+    {
+        found->inputPointManager()->Tell(AcEdInputPoint(document, AcGePoint3d(place.x, place.y, 0)));
+    }
+}
+
 ObjectIds GetHighlighted(const AcApDocument* document)
 {
     const Document* found = DocumentManager::Instance().Find(document);

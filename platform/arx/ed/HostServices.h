@@ -13,6 +13,7 @@
 #include <vector>
 
 class CMDIFrameWnd;
+class CView;
 
 namespace arxhost
 {
@@ -27,6 +28,14 @@ public:
     virtual void Print(const wchar_t* text) = 0;
 };
 
+// How the user answered the question for a point.
+enum class PointReply
+{
+    GivenUp,
+    Typed, // a text, empty for Enter alone
+    Picked
+};
+
 // The parts of the frame that the C interface reaches.
 class IHostUi
 {
@@ -35,6 +44,13 @@ public:
 
     // Asks the user; false when given up. `wholeLine`: a space does not end the answer.
     virtual bool GetString(const wchar_t* /*prompt*/, bool /*wholeLine*/, std::wstring& /*answer*/) { return false; }
+    // Asks for a point in the current drawing, which is picked in its view or typed.
+    virtual PointReply GetPoint(const wchar_t* /*prompt*/, std::wstring& /*typed*/, AcGePoint2d& /*picked*/)
+    {
+        return PointReply::GivenUp;
+    }
+    // Of the current drawing; null when it has none.
+    virtual CView* CurrentView() { return nullptr; }
     // Lets the user select objects; false when given up.
     virtual bool SelectObjects(ObjectIds& /*ids*/) { return false; }
     // Text waits to be run: call RunPendingInput() once the current message is dealt with.
@@ -103,6 +119,10 @@ ARX_API bool IsDocument(const AcApDocument* document);
 // is refused with false.
 ARX_API ViewState GetView(const AcApDocument* document);
 ARX_API bool SetView(AcApDocument* document, const ViewState& view);
+
+// The cursor moved over the view, in drawing units: tells the document's input point monitors. Nothing for something
+// that is no document.
+ARX_API void TellCursor(AcApDocument* document, const AcGePoint2d& place);
 
 // Highlighting and the pickfirst selection, in the order in which objects came in. Erased objects are left out.
 // Highlighting is a state of its own: the host shows the union of both.

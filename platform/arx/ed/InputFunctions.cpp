@@ -108,6 +108,11 @@ int acedGetReal(const ACHAR* prompt, ads_real* result)
     return GetNumber(prompt, result, [](const wchar_t* text, wchar_t** end) { return wcstod(text, end); });
 }
 
+int acedGetPoint(const ads_point /*base*/, const ACHAR* prompt, ads_point result)
+{
+    return result == nullptr ? RTERROR : CommandRunner::Instance().GetPoint(prompt, result);
+}
+
 int acedCommand(int type, ...)
 {
     arxed::ValueSource values;

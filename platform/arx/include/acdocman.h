@@ -8,6 +8,7 @@
 
 #include "arx/WindowsTypes.h"
 
+class AcEdInputPointManager;
 class CDocument;
 
 struct AcAp
@@ -48,6 +49,9 @@ public:
     virtual AcAp::DocLockMode myLockMode() const = 0;
     // True while no command runs in it.
     virtual bool isQuiescent() const = 0;
+
+    // Belongs to the document.
+    virtual AcEdInputPointManager* inputPointManager() const = 0;
 
 protected:
     AcApDocument();

@@ -39,6 +39,11 @@ ARX_API int acedGetString(int cronly, const ACHAR* prompt, ACHAR* result);
 // The answer as a number. RTREJ for other text.
 ARX_API int acedGetInt(const ACHAR* prompt, int* result);
 ARX_API int acedGetReal(const ACHAR* prompt, ads_real* result);
+// A point in drawing units, picked in the view of the current drawing or typed as "x,y" or "x,y,z"; z is 0 else.
+// Another text is refused and asked for again. RTNONE for Enter alone (in a line of answers: ""), RTCAN when the user
+// gave up, the document or the program is closed, or nobody is there to answer; `result` is written with RTNORM only.
+// `base` may be null: the host draws no line from it.
+ARX_API int acedGetPoint(const ads_point base, const ACHAR* prompt, ads_point result);
 
 // Runs one command with its answers, given in pairs of type and value as in acutBuildList() and closed by RTNONE or 0.
 // RTERROR for an unknown command.

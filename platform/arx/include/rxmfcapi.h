@@ -1,5 +1,6 @@
-// The host's framework objects. The frame is null when the program runs without one. Document, view and command lines
-// are always null: the host keeps no framework documents, and its command line is its own.
+// The host's framework objects. The frame is null when the program runs without one, the view of the current drawing
+// as well when no drawing is open. Document and command lines are always null: the host keeps no framework documents,
+// and its command line is its own.
 #pragma once
 
 #include "arx/Api.h"

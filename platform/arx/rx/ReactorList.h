@@ -27,6 +27,8 @@ public:
 
     void Clear() { m_reactors.clear(); }
 
+    bool Has(T* reactor) const { return std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end(); }
+
     // Calls tell(reactor) for each that is still in the list when its turn comes.
     template<class Function>
     void Tell(Function tell) const
@@ -42,8 +44,6 @@ public:
     }
 
 private:
-    bool Has(T* reactor) const { return std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end(); }
-
     std::vector<T*> m_reactors;
 };
 

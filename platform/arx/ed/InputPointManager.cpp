@@ -1,0 +1,44 @@
+#include "InputPointManager.h"
+
+AcEdInputPointManager::AcEdInputPointManager() {}
+
+AcEdInputPointManager::~AcEdInputPointManager() {}
+
+namespace arxed
+{
+
+Acad::ErrorStatus InputPointManager::addPointMonitor(AcEdInputPointMonitor* monitor)
+{
+    if (monitor == nullptr)
+    {
+        return Acad::eInvalidInput;
+    }
+    if (m_monitors.Has(monitor))
+    {
+        return Acad::eDuplicateKey;
+    }
+    m_monitors.Add(monitor);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus InputPointManager::removePointMonitor(AcEdInputPointMonitor* monitor)
+{
+    if (monitor == nullptr)
+    {
+        return Acad::eInvalidInput;
+    }
+    if (!m_monitors.Has(monitor))
+    {
+        return Acad::eKeyNotFound;
+    }
+    m_monitors.Remove(monitor);
+    return Acad::eOk;
+}
+
+void InputPointManager::Tell(const AcEdInputPoint& input) const
+{
+    AcEdInputPointMonitorResult result;
+    m_monitors.Tell([&](AcEdInputPointMonitor& monitor) { monitor.monitorInputPoint(input, result); });
+}
+
+} // namespace arxed

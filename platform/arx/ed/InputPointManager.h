@@ -1,0 +1,23 @@
+// The monitors of one document.
+#pragma once
+
+#include "acedinpt.h"
+#include "arx/rx/ReactorList.h"
+
+namespace arxed
+{
+
+class InputPointManager : public AcEdInputPointManager
+{
+public:
+    Acad::ErrorStatus addPointMonitor(AcEdInputPointMonitor* monitor) override;
+    Acad::ErrorStatus removePointMonitor(AcEdInputPointMonitor* monitor) override;
+
+    void Tell(const AcEdInputPoint& input) const;
+    void Clear() { m_monitors.Clear(); }
+
+private:
+    arxrx::ReactorList<AcEdInputPointMonitor> m_monitors;
+};
+
+} // namespace arxed
