@@ -267,6 +267,15 @@ TEST_F(MsgObject, PanelBindsAMessageOfAnyDrawingToTheCurrentOne)
     EXPECT_EQ(second, Last().document);
 }
 
+TEST_F(MsgObject, PanelBindsAMessageOfNoDrawingToNone)
+{
+    ASSERT_NE(nullptr, arxhost::NewDocument());
+    CZNMsgObject object;
+    ZNKTPub::ReportMsg(CMsgCallback::eInfo, L"g", L"of no drawing", false);
+    object.ShowMsgPanel();
+    EXPECT_EQ(nullptr, Last().document);
+}
+
 TEST_F(MsgObject, PanelGivesNewIdentifiersAndTimes)
 {
     Add(L"g", L"already there");
