@@ -62,6 +62,21 @@ protected:
         return false;
     }
 
+    // The tree asks where the cursor is while it hears of the press; a display that has taken the cursor back by then
+    // makes it a click beside the box, which tells no change. That one is forgotten and tried again.
+    bool ClickBoxUntilChanged(HTREEITEM item)
+    {
+        const int attempts = 5;
+        for (int i = 0; i < attempts; ++i)
+        {
+            m_owner.told.clear();
+            if (ClickUntilTold(BoxOf(item)) && Codes().front() == static_cast<UINT>(STATETREEN_CHECKCHANGED))
+                return true;
+            LetDoubleClickPass();
+        }
+        return false;
+    }
+
     // The next press would be the second of a double click otherwise.
     void LetDoubleClickPass()
     {
@@ -77,19 +92,19 @@ protected:
 
 TEST_F(StateTreeInput, AClickOnABoxChecksAndTheNextOneUnchecks)
 {
-    ASSERT_TRUE(ClickUntilTold(BoxOf(m_children[0])));
+    ASSERT_TRUE(ClickBoxUntilChanged(m_children[0]));
     EXPECT_EQ((Ints{2, 1, 4}), Values(m_children));
     EXPECT_EQ(STATE_PARTIAL, Value(m_root));
     EXPECT_EQ((CodeList{STATETREEN_CHECKCHANGED, STATETREEN_CLICK}), Codes());
     LetDoubleClickPass();
-    ASSERT_TRUE(ClickUntilTold(BoxOf(m_children[0])));
+    ASSERT_TRUE(ClickBoxUntilChanged(m_children[0]));
     EXPECT_EQ((Ints{1, 1, 4}), Values(m_children));
     EXPECT_EQ(STATE_UNCHECKED, Value(m_root));
 }
 
 TEST_F(StateTreeInput, AClickOnTheRootsBoxSetsItsSubtree)
 {
-    ASSERT_TRUE(ClickUntilTold(BoxOf(m_root)));
+    ASSERT_TRUE(ClickBoxUntilChanged(m_root));
     EXPECT_EQ((Ints{2, 2, 4}), Values(m_children));
 }
 
