@@ -6,6 +6,7 @@
 #include "button/ComboButtonItem.h"
 #include "dialog/AutoRichEditCtrl.h"
 #include "dialog/CheckSpecMsgThread.h"
+#include "dialog/CtrlResize.h"
 #include "dialog/HtmlCtrl.h"
 #include "dialog/NoHelpPropertySheet.h"
 #include "edit/InputDialog.h"
