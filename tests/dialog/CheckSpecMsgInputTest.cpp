@@ -1,6 +1,7 @@
 ﻿// The check window under a real mouse and keyboard: its hover rules, dragging, pinning, closing.
 #include "CheckMsgFixture.h"
 
+#include "RealKeyboard.h"
 #include "RealMouse.h"
 
 namespace
@@ -145,11 +146,6 @@ TEST_F(CheckSpecMsgInput, EscapeHidesItOnceTheMouseMadeItActive)
     ASSERT_TRUE(Hover());
     const CPoint text = MiddleOf(kTextId);
     ASSERT_TRUE(MoveMouseUntil(text, [this] { return ::GetForegroundWindow() == Dialog(); }));
-    INPUT key = {};
-    key.type = INPUT_KEYBOARD;
-    key.ki.wVk = VK_ESCAPE;
-    ::SendInput(1, &key, sizeof(key));
+    PressKey(VK_ESCAPE);
     EXPECT_TRUE(WaitUntilShown(false));
-    key.ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(1, &key, sizeof(key));
 }

@@ -1,6 +1,7 @@
 // The edit menu under a real mouse and keyboard.
 #include "RichEditFixture.h"
 
+#include "RealKeyboard.h"
 #include "RealMouse.h"
 
 class EditMenuInput : public RichEditFixture
@@ -15,20 +16,13 @@ protected:
         m_edit.UpdateWindow();
     }
 
-    // A click with the right button on the control; one that opened nothing in time is tried again.
     bool RightClickUntilOpened(const MenuDriver& driver)
     {
         CRect rect;
         m_edit.GetWindowRect(&rect);
-        const int attempts = 5;
         const int before = driver.Opened();
-        for (int i = 0; i < attempts && driver.Opened() == before; ++i)
-        {
-            SendMouse(rect.CenterPoint(), MOUSEEVENTF_RIGHTDOWN);
-            SendMouse(rect.CenterPoint(), MOUSEEVENTF_RIGHTUP);
-            WaitFor([&] { return driver.Opened() != before; }, 2 * ::GetDoubleClickTime());
-        }
-        return driver.Opened() != before;
+        return ClickMouseUntil(
+            rect.CenterPoint(), [&] { return driver.Opened() != before; }, kRightClick);
     }
 };
 
@@ -57,7 +51,7 @@ TEST_F(EditMenuInput, CutAndPasteMoveText)
 TEST_F(EditMenuInput, UndoTakesTypingBack)
 {
     m_edit.SetSel(4, 4);
-    SendKey('X');
+    PressKey('X');
     ASSERT_TRUE(WaitFor([this] { return Text() == L"abcdx"; }));
     const MenuDriver driver([](HMENU) { return ID_EDIT_UNDO; });
     ASSERT_TRUE(RightClickUntilOpened(driver));

@@ -6,20 +6,12 @@
 class NoHelpSheetInput : public NoHelpSheetFixture
 {
 protected:
-    // Clicks the middle of a button until the condition holds; a click that came too early is tried again.
     template<class CONDITION>
     bool ClickUntil(int id, CONDITION condition)
     {
         CRect rect;
         sheet.GetDlgItem(id)->GetWindowRect(&rect);
-        const int attempts = 5;
-        for (int i = 0; i < attempts && !condition(); ++i)
-        {
-            SendMouse(rect.CenterPoint(), MOUSEEVENTF_LEFTDOWN);
-            SendMouse(rect.CenterPoint(), MOUSEEVENTF_LEFTUP);
-            WaitFor(condition, 2 * ::GetDoubleClickTime());
-        }
-        return condition();
+        return ClickMouseUntil(rect.CenterPoint(), condition);
     }
 
     bool Told(const char* event)

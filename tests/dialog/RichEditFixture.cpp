@@ -1,5 +1,6 @@
 #include "RichEditFixture.h"
 
+#include "RealKeyboard.h"
 #include "Wait.h"
 
 namespace
@@ -125,10 +126,10 @@ void MenuDriver::Look()
     const UINT chosen = m_chooser(menu);
     const int steps = chosen == 0 ? 0 : StepsTo(menu, chosen);
     for (int i = 0; i < steps; ++i)
-        SendKey(VK_DOWN);
-    SendKey(steps > 0 ? VK_RETURN : VK_ESCAPE);
+        PressKey(VK_DOWN);
+    PressKey(steps > 0 ? VK_RETURN : VK_ESCAPE);
     if (steps > 0)
-        SendKey(VK_ESCAPE); // closes the menu where the item was grey
+        PressKey(VK_ESCAPE); // closes the menu where the item was grey
 }
 
 std::wstring ItemText(HMENU menu, int position)
@@ -141,14 +142,4 @@ std::wstring ItemText(HMENU menu, int position)
 bool IsGrey(HMENU menu, UINT id)
 {
     return (::GetMenuState(menu, id, MF_BYCOMMAND) & MF_GRAYED) != 0;
-}
-
-void SendKey(WORD key)
-{
-    INPUT input[2] = {};
-    input[0].type = INPUT_KEYBOARD;
-    input[0].ki.wVk = key;
-    input[1] = input[0];
-    input[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(2, input, sizeof(INPUT));
 }

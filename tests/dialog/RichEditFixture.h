@@ -88,5 +88,3 @@ private:
 
 std::wstring ItemText(HMENU menu, int position);
 bool IsGrey(HMENU menu, UINT id);
-
-void SendKey(WORD key);

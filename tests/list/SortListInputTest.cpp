@@ -1,7 +1,7 @@
 // The sortable list under a real mouse.
 #include "SortListFixture.h"
 
-#include "Wait.h"
+#include "RealMouse.h"
 
 namespace
 {
@@ -43,32 +43,6 @@ protected:
         return OnScreen(m_list.m_hWnd, CRect(client.right - 20, client.bottom - 20, client.right, client.bottom));
     }
 
-    static void Send(DWORD flags)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        ::SendInput(1, &input, sizeof(input));
-    }
-
-    // Under Wine a move that the display reports late takes the cursor back before the button goes down: a click that
-    // had no effect in time is tried again, after longer than a double click takes.
-    template<class CONDITION>
-    static bool ClickUntil(CPoint point, CONDITION condition, DWORD down = MOUSEEVENTF_LEFTDOWN,
-                           DWORD up = MOUSEEVENTF_LEFTUP)
-    {
-        const int attempts = 5;
-        for (int i = 0; i < attempts; ++i)
-        {
-            ::SetCursorPos(point.x, point.y);
-            Send(down);
-            Send(up);
-            if (WaitFor(condition, 2 * ::GetDoubleClickTime()))
-                return true;
-        }
-        return false;
-    }
-
     bool IsClicked(int row, int column)
     {
         int clickedRow = 0;
@@ -82,27 +56,28 @@ protected:
 
 TEST_F(SortListInput, AClickOnAHeadingSortsAndTheNextOneReverses)
 {
-    EXPECT_TRUE(ClickUntil(HeadingPoint(0), [this] { return Column(0) == (Texts{L"c", L"b", L"a"}); }));
+    EXPECT_TRUE(ClickMouseUntil(HeadingPoint(0), [this] { return Column(0) == (Texts{L"c", L"b", L"a"}); }));
     EXPECT_TRUE(HasArrow(0));
-    EXPECT_TRUE(ClickUntil(HeadingPoint(0), [this] { return Column(0) == (Texts{L"a", L"b", L"c"}); }));
+    EXPECT_TRUE(ClickMouseUntil(HeadingPoint(0), [this] { return Column(0) == (Texts{L"a", L"b", L"c"}); }));
     EXPECT_EQ((std::vector<DWORD_PTR>{1002, 1000, 1001}), Data());
 }
 
 TEST_F(SortListInput, AClickRecordsItsCell)
 {
     EXPECT_TRUE(IsClicked(-1, -1));
-    EXPECT_TRUE(ClickUntil(CellPoint(1, 1), [this] { return IsClicked(1, 1); }));
-    EXPECT_TRUE(ClickUntil(CellPoint(2, 0), [this] { return IsClicked(2, 0); }));
-    EXPECT_TRUE(ClickUntil(EmptyPoint(), [this] { return IsClicked(-1, -1); }));
+    EXPECT_TRUE(ClickMouseUntil(CellPoint(1, 1), [this] { return IsClicked(1, 1); }));
+    EXPECT_TRUE(ClickMouseUntil(CellPoint(2, 0), [this] { return IsClicked(2, 0); }));
+    EXPECT_TRUE(ClickMouseUntil(EmptyPoint(), [this] { return IsClicked(-1, -1); }));
 }
 
 TEST_F(SortListInput, TheRightButtonRecordsItsCellToo)
 {
-    EXPECT_TRUE(ClickUntil(
-        CellPoint(0, 1), [this] { return IsClicked(0, 1); }, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP));
+    EXPECT_TRUE(ClickMouseUntil(
+        CellPoint(0, 1), [this] { return IsClicked(0, 1); }, kRightClick));
 }
 
 TEST_F(SortListInput, AClickStillSelectsTheRow)
 {
-    EXPECT_TRUE(ClickUntil(CellPoint(1, 0), [this] { return m_list.GetItemState(1, LVIS_SELECTED) == LVIS_SELECTED; }));
+    EXPECT_TRUE(
+        ClickMouseUntil(CellPoint(1, 0), [this] { return m_list.GetItemState(1, LVIS_SELECTED) == LVIS_SELECTED; }));
 }

@@ -1,5 +1,6 @@
 // The editable list under a real mouse and keyboard.
 #include "EditableListFixture.h"
+#include "RealKeyboard.h"
 #include "RealMouse.h"
 
 namespace
@@ -21,70 +22,11 @@ protected:
         return rect.CenterPoint();
     }
 
-    static void Mouse(DWORD flags, int data = 0)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        input.mi.mouseData = static_cast<DWORD>(data);
-        ::SendInput(1, &input, sizeof(input));
-    }
-
-    static void Key(WORD key, WORD scan = 0, DWORD flags = 0)
-    {
-        for (const DWORD up : {0ul, static_cast<unsigned long>(KEYEVENTF_KEYUP)})
-        {
-            INPUT input = {};
-            input.type = INPUT_KEYBOARD;
-            input.ki.wVk = key;
-            input.ki.wScan = scan;
-            input.ki.dwFlags = flags | up;
-            ::SendInput(1, &input, sizeof(input));
-        }
-    }
-
-    static void Type(const std::wstring& text)
-    {
-        for (const wchar_t character : text)
-            Key(0, character, KEYEVENTF_UNICODE);
-    }
-
-    // Dispatches as a program does: every message may be translated first.
-    template<class CONDITION>
-    static bool Pump(CONDITION condition, DWORD timeout = 5000)
-    {
-        return WaitFor(
-            [&condition] {
-                MSG message;
-                while (::PeekMessageW(&message, NULL, 0, 0, PM_NOREMOVE))
-                    AfxGetThread()->PumpMessage();
-                return condition();
-            },
-            timeout);
-    }
-
-    // Under Wine a move that the display reports late takes the cursor back before the button goes down: a click that
-    // had no effect in time is tried again, after longer than a double click takes.
-    template<class CONDITION>
-    static bool ClickUntil(CPoint point, CONDITION condition)
-    {
-        const int attempts = 5;
-        for (int i = 0; i < attempts; ++i)
-        {
-            ::SetCursorPos(point.x, point.y);
-            Mouse(MOUSEEVENTF_LEFTDOWN);
-            Mouse(MOUSEEVENTF_LEFTUP);
-            if (Pump(condition, 2 * ::GetDoubleClickTime()))
-                return true;
-        }
-        return false;
-    }
-
     // A click that went astray may have opened another editor before: what was noted until then is forgotten.
     bool ClickUntilEdited(int row, int column, int id)
     {
         const std::wstring begin = L"begin " + std::to_wstring(row) + L"," + std::to_wstring(column);
-        const bool done = ClickUntil(OnScreen(List().m_hWnd, CellRect(row, column).CenterPoint()), [&] {
+        const bool done = ClickMouseUntil(OnScreen(List().m_hWnd, CellRect(row, column).CenterPoint()), [&] {
             return Child(id) != NULL && !m_owner.notes.empty() &&
                    m_owner.notes.back().compare(0, begin.size(), begin) == 0;
         });
@@ -94,7 +36,7 @@ protected:
 
     bool IsNoted(const Notes& expected)
     {
-        return Pump([this, &expected] { return m_owner.notes == expected; });
+        return WaitThroughFramework([this, &expected] { return m_owner.notes == expected; });
     }
 
     // The owner writes what was edited into the cell, as owners do.
@@ -114,15 +56,15 @@ TEST_F(EditableListInput, ClickTypeAndEnterEditACellAndGoToTheNext)
     AnswerWithEdit();
     StoreTexts();
     ASSERT_TRUE(ClickUntilEdited(1, 1, kEditId));
-    Type(L"new");
-    ASSERT_TRUE(Pump([this] { return TextOf(Child(kEditId)) == L"new"; }));
-    Key(VK_RETURN);
+    TypeText(L"new");
+    ASSERT_TRUE(WaitThroughFramework([this] { return TextOf(Child(kEditId)) == L"new"; }));
+    PressKey(VK_RETURN);
     ASSERT_TRUE(IsNoted({L"end 1,1 new", L"begin 1,2 r1c2"}));
     EXPECT_EQ(L"new", CellText(1, 1));
-    Type(L"next");
-    ASSERT_TRUE(Pump([this] { return TextOf(Child(kEditId)) == L"next"; }));
-    Key(VK_DOWN);
-    ASSERT_TRUE(Pump([this] { return CellText(1, 2) == L"next"; }));
+    TypeText(L"next");
+    ASSERT_TRUE(WaitThroughFramework([this] { return TextOf(Child(kEditId)) == L"next"; }));
+    PressKey(VK_DOWN);
+    ASSERT_TRUE(WaitThroughFramework([this] { return CellText(1, 2) == L"next"; }));
     EXPECT_EQ(1, CountEditors());
 }
 
@@ -130,17 +72,17 @@ TEST_F(EditableListInput, ChineseIsTyped)
 {
     AnswerWithEdit();
     ASSERT_TRUE(ClickUntilEdited(1, 1, kEditId));
-    Type(L"\x56FE\x5C42");
-    EXPECT_TRUE(Pump([this] { return TextOf(Child(kEditId)) == L"\x56FE\x5C42"; }));
+    TypeText(L"\x56FE\x5C42");
+    EXPECT_TRUE(WaitThroughFramework([this] { return TextOf(Child(kEditId)) == L"\x56FE\x5C42"; }));
 }
 
 TEST_F(EditableListInput, ClickElsewhereEndsTheEdit)
 {
     AnswerWithEdit();
     ASSERT_TRUE(ClickUntilEdited(1, 1, kEditId));
-    Type(L"x");
-    ASSERT_TRUE(Pump([this] { return TextOf(Child(kEditId)) == L"x"; }));
-    EXPECT_TRUE(ClickUntil(MiddleOf(m_other.m_hWnd), [this] { return CountEditors() == 0; }));
+    TypeText(L"x");
+    ASSERT_TRUE(WaitThroughFramework([this] { return TextOf(Child(kEditId)) == L"x"; }));
+    EXPECT_TRUE(ClickMouseUntil(MiddleOf(m_other.m_hWnd), [this] { return CountEditors() == 0; }));
     EXPECT_TRUE(IsNoted({L"end 1,1 x"}));
 }
 
@@ -148,8 +90,8 @@ TEST_F(EditableListInput, ClickOnAnotherCellMovesTheEditor)
 {
     AnswerWithEdit();
     ASSERT_TRUE(ClickUntilEdited(1, 1, kEditId));
-    EXPECT_TRUE(ClickUntil(OnScreen(List().m_hWnd, CellRect(2, 2).CenterPoint()),
-                           [this] { return TextOf(Child(kEditId)) == L"r2c2"; }));
+    EXPECT_TRUE(ClickMouseUntil(OnScreen(List().m_hWnd, CellRect(2, 2).CenterPoint()),
+                                [this] { return TextOf(Child(kEditId)) == L"r2c2"; }));
     EXPECT_TRUE(IsNoted({L"end 1,1 r1c1", L"begin 2,2 r2c2"}));
 }
 
@@ -158,7 +100,7 @@ TEST_F(EditableListInput, ClickInsideTheEditorEndsNothing)
     AnswerWithEdit();
     ASSERT_TRUE(ClickUntilEdited(1, 1, kEditId));
     CEdit* const edit = static_cast<CEdit*>(CWnd::FromHandlePermanent(Child(kEditId)));
-    ASSERT_TRUE(ClickUntil(MiddleOf(*edit), [edit] { return HIWORD(edit->GetSel()) == LOWORD(edit->GetSel()); }));
+    ASSERT_TRUE(ClickMouseUntil(MiddleOf(*edit), [edit] { return HIWORD(edit->GetSel()) == LOWORD(edit->GetSel()); }));
     EXPECT_TRUE(IsNoted({}));
     EXPECT_EQ(1, CountEditors());
 }
@@ -167,7 +109,7 @@ TEST_F(EditableListInput, ButtonOfThreeDotsTellsTheOwner)
 {
     AnswerWithButton();
     ASSERT_TRUE(ClickUntilEdited(1, 1, kButtonId));
-    EXPECT_TRUE(ClickUntil(MiddleOf(Child(kButtonId)), [this] { return m_owner.notes.size() >= 2; }));
+    EXPECT_TRUE(ClickMouseUntil(MiddleOf(Child(kButtonId)), [this] { return m_owner.notes.size() >= 2; }));
     EXPECT_TRUE(IsNoted({L"end 1,1 r1c1", L"message 1,1"}));
     EXPECT_EQ(0, CountEditors());
 }
@@ -177,16 +119,17 @@ TEST_F(EditableListInput, EntryIsChosenFromTheDropDown)
     AnswerWithCombo(CBS_DROPDOWNLIST);
     ASSERT_TRUE(ClickUntilEdited(1, 1, kComboId));
     const HWND combo = Child(kComboId);
-    ASSERT_TRUE(ClickUntil(MiddleOf(combo), [combo] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }));
+    ASSERT_TRUE(
+        ClickMouseUntil(MiddleOf(combo), [combo] { return ::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }));
     COMBOBOXINFO info = {};
     info.cbSize = sizeof(info);
     ASSERT_TRUE(::GetComboBoxInfo(combo, &info));
     CRect entry;
     ::SendMessageW(info.hwndList, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&entry));
-    EXPECT_TRUE(ClickUntil(OnScreen(info.hwndList, entry.CenterPoint()),
-                           [combo] { return ::SendMessageW(combo, CB_GETCURSEL, 0, 0) == 1; }));
+    EXPECT_TRUE(ClickMouseUntil(OnScreen(info.hwndList, entry.CenterPoint()),
+                                [combo] { return ::SendMessageW(combo, CB_GETCURSEL, 0, 0) == 1; }));
     EXPECT_TRUE(IsNoted({L"message 41,0"}));
-    Key(VK_RETURN);
+    PressKey(VK_RETURN);
     EXPECT_TRUE(IsNoted({L"message 41,0", L"end 1,1 entry 1", L"begin 1,2 r1c2"}));
 }
 
@@ -201,8 +144,8 @@ TEST_F(EditableListInput, WheelScrollsAndEndsTheEdit)
     const CPoint beside = OnScreen(List().m_hWnd, CPoint(kColumns * kColumnWidth + 20, 100));
     ::SetCursorPos(beside.x, beside.y);
     SendMouse(beside, MOUSEEVENTF_WHEEL, -WHEEL_DELTA);
-    EXPECT_TRUE(Pump([this] { return CountEditors() == 0; }));
-    EXPECT_TRUE(Pump([this] { return List().GetTopIndex() > 0; }));
+    EXPECT_TRUE(WaitThroughFramework([this] { return CountEditors() == 0; }));
+    EXPECT_TRUE(WaitThroughFramework([this] { return List().GetTopIndex() > 0; }));
     EXPECT_TRUE(IsNoted({L"end 1,1 r1c1"}));
 }
 
@@ -214,7 +157,7 @@ TEST_F(EditableListInput, DraggingAHeadingEndsTheEdit)
     CRect item;
     List().GetHeaderCtrl()->GetItemRect(0, &item);
     const CPoint divider = OnScreen(header, CPoint(item.right - 1, item.CenterPoint().y));
-    EXPECT_TRUE(ClickUntil(divider, [this] { return CountEditors() == 0; }));
+    EXPECT_TRUE(ClickMouseUntil(divider, [this] { return CountEditors() == 0; }));
     EXPECT_TRUE(IsNoted({L"end 1,1 r1c1"}));
 }
 
@@ -223,7 +166,7 @@ TEST_F(EditableListInput, SpaceEditsTheSelectedRow)
     AnswerWithEdit();
     List().SetFocus();
     List().SelectItem(2, true);
-    Key(VK_SPACE);
+    PressKey(VK_SPACE);
     EXPECT_TRUE(IsNoted({L"begin 2,1 r2c1"}));
     EXPECT_EQ(L"r2c1", TextOf(Child(kEditId)));
 }

@@ -2,7 +2,8 @@
 #include "Drawing.h"
 #include "ViewerFixture.h"
 
-#include "Wait.h"
+#include "RealKeyboard.h"
+#include "RealMouse.h"
 
 namespace
 {
@@ -48,55 +49,9 @@ protected:
         return CentreOf(header, rect);
     }
 
-    static void SendMouse(DWORD flags)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        ::SendInput(1, &input, sizeof(input));
-    }
-
-    static void ClickAt(CPoint point)
-    {
-        ::SetCursorPos(point.x, point.y);
-        SendMouse(MOUSEEVENTF_LEFTDOWN);
-        SendMouse(MOUSEEVENTF_LEFTUP);
-    }
-
-    static void SendKey(WORD key, DWORD flags)
-    {
-        INPUT input = {};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
-        input.ki.dwFlags = flags;
-        ::SendInput(1, &input, sizeof(input));
-    }
-
-    static void Press(WORD key)
-    {
-        SendKey(key, 0);
-        SendKey(key, KEYEVENTF_KEYUP);
-    }
-
-    // Under Wine a move that the display reports late takes the cursor back before the button goes down: a click that
-    // had no effect in time is tried again. The pause is longer than that of a double click.
-    template<class CONDITION>
-    static bool ClickUntil(CPoint point, CONDITION condition, int clicks = 1)
-    {
-        const int attempts = 5;
-        for (int i = 0; i < attempts; ++i)
-        {
-            for (int click = 0; click < clicks; ++click)
-                ClickAt(point);
-            if (WaitFor(condition, 2 * ::GetDoubleClickTime()))
-                return true;
-        }
-        return false;
-    }
-
     static bool SelectByClick(int row)
     {
-        return ClickUntil(CentreOfRow(row), [row] { return SelectedRows() == std::vector<int>{row}; });
+        return ClickMouseUntil(CentreOfRow(row), [row] { return SelectedRows() == std::vector<int>{row}; });
     }
 
     static bool WaitForSelection(const std::vector<int>& rows)
@@ -110,7 +65,7 @@ protected:
 TEST_F(ViewerInput, ClickSelectsARowAndTheButtonDeletesIt)
 {
     ASSERT_TRUE(SelectByClick(1));
-    EXPECT_TRUE(ClickUntil(CentreOfItem(IDC_DELETE_SELECTED), [] { return Rows() == 3; }));
+    EXPECT_TRUE(ClickMouseUntil(CentreOfItem(IDC_DELETE_SELECTED), [] { return Rows() == 3; }));
     EXPECT_EQ((Texts{L"one", L"three", L"four"}), Column(3));
 }
 
@@ -118,35 +73,37 @@ TEST_F(ViewerInput, ShiftClickSelectsARange)
 {
     ASSERT_TRUE(SelectByClick(0));
     SendKey(VK_SHIFT, 0);
-    EXPECT_TRUE(ClickUntil(CentreOfRow(2), [] { return SelectedRows().size() == 3; }));
+    EXPECT_TRUE(ClickMouseUntil(CentreOfRow(2), [] { return SelectedRows().size() == 3; }));
     SendKey(VK_SHIFT, KEYEVENTF_KEYUP);
 }
 
 TEST_F(ViewerInput, ArrowKeysMoveTheSelection)
 {
     ASSERT_TRUE(SelectByClick(0));
-    Press(VK_DOWN);
+    PressKey(VK_DOWN);
     EXPECT_TRUE(WaitForSelection({1}));
 }
 
 TEST_F(ViewerInput, EnterAndEscapeLeaveTheViewerOpen)
 {
     ASSERT_TRUE(SelectByClick(0));
-    Press(VK_RETURN);
-    Press(VK_ESCAPE);
-    Press(VK_DOWN);
+    PressKey(VK_RETURN);
+    PressKey(VK_ESCAPE);
+    PressKey(VK_DOWN);
     ASSERT_TRUE(WaitForSelection({1}));
     EXPECT_TRUE(::IsWindowVisible(Viewer()));
 }
 
 TEST_F(ViewerInput, ClickOnAHeadingSorts)
 {
-    EXPECT_TRUE(ClickUntil(CentreOfHeader(3), [] { return Column(3) == (Texts{L"four", L"one", L"three", L"two"}); }));
+    EXPECT_TRUE(ClickMouseUntil(CentreOfHeader(3), [] {
+        return Column(3) == (Texts{L"four", L"one", L"three", L"two"});
+    }));
 }
 
 TEST_F(ViewerInput, ClickOnTheToggleHidesTheTree)
 {
-    EXPECT_TRUE(ClickUntil(CentreOfItem(IDC_SHOW_TREE), [] { return !IsShown(IDC_TREE); }));
+    EXPECT_TRUE(ClickMouseUntil(CentreOfItem(IDC_SHOW_TREE), [] { return !IsShown(IDC_TREE); }));
 }
 
 TEST_F(ViewerInput, DoubleClickZooms)
@@ -158,5 +115,5 @@ TEST_F(ViewerInput, DoubleClickZooms)
     const CPoint point = CentreOfRow(4);
     AcApDocument* const document = CZNMsgManager::CurrentDocument();
     const auto isZoomed = [document] { return arxhost::GetView(document).centre.x == 200; };
-    EXPECT_TRUE(ClickUntil(point, isZoomed, 2));
+    EXPECT_TRUE(ClickMouseUntil(point, isZoomed, kDoubleClick));
 }

@@ -1,6 +1,7 @@
 // The flat button under a real mouse.
 #include "MyButtonFixture.h"
 
+#include "RealKeyboard.h"
 #include "RealMouse.h"
 
 class MyButtonInput : public MyButtonFixture
@@ -62,11 +63,6 @@ TEST_F(MyButtonInput, ACheckedButtonStaysSunkenUnderTheMouse)
 TEST_F(MyButtonInput, TheSpaceBarClicks)
 {
     m_button.SetFocus();
-    INPUT input[2] = {};
-    input[0].type = INPUT_KEYBOARD;
-    input[0].ki.wVk = VK_SPACE;
-    input[1] = input[0];
-    input[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(2, input, sizeof(INPUT));
+    PressKey(VK_SPACE);
     EXPECT_TRUE(WaitFor([this] { return m_owner.clicks == 1; }));
 }

@@ -1,6 +1,6 @@
 #include "WaitDialog.h"
 
-#include "Wait.h"
+#include "RealMouse.h"
 
 namespace
 {
@@ -15,14 +15,6 @@ BOOL CALLBACK TakeDialog(HWND window, LPARAM found)
         return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
-}
-
-void SendMouse(DWORD flags)
-{
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    ::SendInput(1, &input, sizeof(input));
 }
 
 } // namespace
@@ -77,9 +69,7 @@ bool WaitDialog::ClickCancel()
     RECT rect = {};
     if (!::GetWindowRect(CancelButton(), &rect))
         return false;
-    ::SetCursorPos((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-    SendMouse(MOUSEEVENTF_LEFTDOWN);
-    SendMouse(MOUSEEVENTF_LEFTUP);
+    ClickMouse(CRect(rect).CenterPoint());
     return true;
 }
 

@@ -5,7 +5,7 @@
 //     EXPECT_EQ(L"A\nB", dialog.Lines());
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <string>
 

@@ -14,7 +14,7 @@ protected:
     FollowTipInput() : m_other(CRect(700, 300, 800, 400))
     {
         m_owner.SetForegroundWindow();
-        MoveUntil(kInside, [] { return Pointer() == kInside; });
+        MoveMouseUntil(kInside, [] { return Pointer() == kInside; });
     }
 
     bool IsBesidePointer() const { return IsVisible() && ScreenRect(Tip()).TopLeft() == PlaceByPointer(); }
@@ -29,28 +29,28 @@ TEST_F(FollowTipInput, FollowsTheMouseOverTheWatchedWindow)
     CFollowMouseTipWnd::SetWatchWnd(&m_owner);
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
     for (const CPoint& point : {kFurther, kInside})
-        EXPECT_TRUE(MoveUntil(point, [this, point] { return Pointer() == point && IsBesidePointer(); }));
+        EXPECT_TRUE(MoveMouseUntil(point, [this, point] { return Pointer() == point && IsBesidePointer(); }));
 }
 
 TEST_F(FollowTipInput, HidesOverAnotherWindowAndReturns)
 {
     CFollowMouseTipWnd::SetWatchWnd(&m_owner);
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
-    EXPECT_TRUE(MoveUntil(kElsewhere, [this] { return !IsVisible(); }));
-    EXPECT_TRUE(MoveUntil(kInside, [this] { return IsBesidePointer(); }));
+    EXPECT_TRUE(MoveMouseUntil(kElsewhere, [this] { return !IsVisible(); }));
+    EXPECT_TRUE(MoveMouseUntil(kInside, [this] { return IsBesidePointer(); }));
 }
 
 TEST_F(FollowTipInput, FollowsEverywhereWithoutAWatchedWindow)
 {
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
-    EXPECT_TRUE(MoveUntil(kElsewhere, [this] { return Pointer() == kElsewhere && IsBesidePointer(); }));
+    EXPECT_TRUE(MoveMouseUntil(kElsewhere, [this] { return Pointer() == kElsewhere && IsBesidePointer(); }));
 }
 
 TEST_F(FollowTipInput, StaysHiddenAfterHide)
 {
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
     CFollowMouseTipWnd::Hide();
-    EXPECT_TRUE(MoveUntil(kFurther, [] { return Pointer() == kFurther; }));
+    EXPECT_TRUE(MoveMouseUntil(kFurther, [] { return Pointer() == kFurther; }));
     EXPECT_FALSE(IsVisible());
 }
 
@@ -58,7 +58,7 @@ TEST_F(FollowTipInput, AMoveAfterTheEndHarmsNobody)
 {
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
     CFollowMouseTipWnd::Destroy();
-    EXPECT_TRUE(MoveUntil(kFurther, [] { return Pointer() == kFurther; }));
+    EXPECT_TRUE(MoveMouseUntil(kFurther, [] { return Pointer() == kFurther; }));
     EXPECT_EQ(NULL, Tip());
 }
 
@@ -74,6 +74,6 @@ TEST_F(FollowTipInput, OtherHooksOfTheThreadStillSeeTheMouse)
         },
         NULL, ::GetCurrentThreadId());
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL); // its hook comes first
-    EXPECT_TRUE(MoveUntil(kFurther, [] { return seen > 0; }));
+    EXPECT_TRUE(MoveMouseUntil(kFurther, [] { return seen > 0; }));
     ::UnhookWindowsHookEx(hook);
 }

@@ -31,7 +31,7 @@ TEST_F(SlideCtrlInput, AClickOnThePictureIsAClickOfTheButton)
     control.Create(L"", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(10, 10, 10 + kWidth, 10 + kHeight), &owner, kId);
     control.SetFileName(BlueImage(L"plan.png"));
     owner.SetForegroundWindow();
-    EXPECT_TRUE(ClickUntil(ScreenRect(control.m_hWnd).CenterPoint(), [&] { return owner.clicks > 0; }));
+    EXPECT_TRUE(ClickMouseUntil(ScreenRect(control.m_hWnd).CenterPoint(), [&] { return owner.clicks > 0; }));
     EXPECT_EQ(Blue(), Picture(control.m_hWnd)->Pixel(kWidth / 2, kHeight / 2)) << "still drawn, pressed or not";
     control.DestroyWindow();
 }

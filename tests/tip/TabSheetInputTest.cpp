@@ -17,7 +17,7 @@ protected:
     {
         CPoint point = MiddleOfTab(tab);
         m_sheet.ClientToScreen(&point);
-        return ClickUntil(point, [this, tab] { return Shown() == tab; });
+        return ClickMouseUntil(point, [this, tab] { return Shown() == tab; });
     }
 };
 

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "DibCanvas.h"
-#include "Wait.h"
+#include "RealMouse.h"
 
 #include <algorithm>
 #include <functional>
@@ -72,59 +72,4 @@ inline int UserObjectMark()
     for (const HMENU probe : probes)
         ::DestroyMenu(probe);
     return highest;
-}
-
-// Dispatches as the framework does, so that windows see messages before they are dispatched.
-template<class CONDITION>
-bool PumpUntil(CONDITION condition, DWORD timeout = 5000)
-{
-    return WaitFor(
-        [&condition] {
-            MSG message;
-            while (::PeekMessageW(&message, NULL, 0, 0, PM_NOREMOVE))
-                AfxGetThread()->PumpMessage();
-            return condition();
-        },
-        timeout);
-}
-
-// A real mouse.
-inline void MouseEvent(DWORD flags)
-{
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    ::SendInput(1, &input, sizeof(input));
-}
-
-// Under Wine a move that the display reports late may take the cursor back: it is moved until the condition holds.
-template<class CONDITION>
-bool MoveUntil(CPoint point, CONDITION condition)
-{
-    const int attempts = 5;
-    const DWORD patience = 1000;
-    for (int i = 0; i < attempts; ++i)
-    {
-        // A move to the same place is none.
-        ::SetCursorPos(point.x + 1, point.y);
-        ::SetCursorPos(point.x, point.y);
-        if (PumpUntil(condition, patience))
-            return true;
-    }
-    return false;
-}
-
-template<class CONDITION>
-bool ClickUntil(CPoint point, CONDITION condition)
-{
-    const int attempts = 5;
-    for (int i = 0; i < attempts; ++i)
-    {
-        ::SetCursorPos(point.x, point.y);
-        MouseEvent(MOUSEEVENTF_LEFTDOWN);
-        MouseEvent(MOUSEEVENTF_LEFTUP);
-        if (PumpUntil(condition, 2 * ::GetDoubleClickTime()))
-            return true;
-    }
-    return false;
 }

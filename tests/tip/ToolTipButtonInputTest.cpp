@@ -20,15 +20,15 @@ protected:
 
 TEST_F(ToolTipButtonInput, TheTipShowsWhileTheMouseIsOverTheButton)
 {
-    EXPECT_TRUE(MoveUntil(MiddleOfButton(), [this] { return IsTipVisible() && m_button->IsHot(); }));
-    EXPECT_TRUE(MoveUntil(BesideButton(), [] { return Tip() == NULL; }));
-    EXPECT_TRUE(MoveUntil(MiddleOfButton(), [] { return IsTipVisible(); }));
+    EXPECT_TRUE(MoveMouseUntil(MiddleOfButton(), [this] { return IsTipVisible() && m_button->IsHot(); }));
+    EXPECT_TRUE(MoveMouseUntil(BesideButton(), [] { return Tip() == NULL; }));
+    EXPECT_TRUE(MoveMouseUntil(MiddleOfButton(), [] { return IsTipVisible(); }));
 }
 
 TEST_F(ToolTipButtonInput, AClickHidesTheTipUntilTheMouseReturns)
 {
-    ASSERT_TRUE(MoveUntil(MiddleOfButton(), [] { return IsTipVisible(); }));
-    EXPECT_TRUE(ClickUntil(MiddleOfButton(), [] { return !IsTipVisible(); }));
-    EXPECT_TRUE(MoveUntil(BesideButton(), [] { return Tip() == NULL; }));
-    EXPECT_TRUE(MoveUntil(MiddleOfButton(), [] { return IsTipVisible(); }));
+    ASSERT_TRUE(MoveMouseUntil(MiddleOfButton(), [] { return IsTipVisible(); }));
+    EXPECT_TRUE(ClickMouseUntil(MiddleOfButton(), [] { return !IsTipVisible(); }));
+    EXPECT_TRUE(MoveMouseUntil(BesideButton(), [] { return Tip() == NULL; }));
+    EXPECT_TRUE(MoveMouseUntil(MiddleOfButton(), [] { return IsTipVisible(); }));
 }

@@ -1,6 +1,7 @@
 // The check tree under a real mouse and keyboard.
 #include "StateTreeFixture.h"
 
+#include "RealKeyboard.h"
 #include "RealMouse.h"
 
 namespace
@@ -33,18 +34,6 @@ protected:
         m_tree.ClientToScreen(&point);
         SendMouse(point, MOUSEEVENTF_LEFTDOWN);
         SendMouse(point, MOUSEEVENTF_LEFTUP);
-    }
-
-    static void SendKey(WORD key)
-    {
-        INPUT input[2] = {};
-        for (INPUT& one : input)
-        {
-            one.type = INPUT_KEYBOARD;
-            one.ki.wVk = key;
-        }
-        input[1].ki.dwFlags = KEYEVENTF_KEYUP;
-        ::SendInput(2, input, sizeof(INPUT));
     }
 
     // A real click, tried again where it did not arrive: nothing was told then.
@@ -130,10 +119,10 @@ TEST_F(StateTreeInput, SpaceTogglesTheSelectedItem)
 {
     m_tree.SelectItem(m_root);
     ASSERT_TRUE(WaitFor([this] { return ::GetFocus() == m_tree.m_hWnd; }));
-    SendKey(VK_SPACE);
+    PressKey(VK_SPACE);
     EXPECT_TRUE(WaitFor([this] { return Value(m_root) == STATE_CHECKED; }));
     EXPECT_EQ((Ints{2, 2, 4}), Values(m_children));
-    SendKey(VK_SPACE);
+    PressKey(VK_SPACE);
     EXPECT_TRUE(WaitFor([this] { return Value(m_root) == STATE_UNCHECKED; }));
     EXPECT_EQ((Ints{1, 1, 4}), Values(m_children));
     EXPECT_TRUE(m_owner.told.empty());

@@ -1,8 +1,10 @@
 // The wait dialog under a real mouse.
+#include <afxwin.h>
+
 #include <ZNWaitDlgDll.h>
 
 #include "PlainWindow.h"
-#include "Wait.h"
+#include "RealMouse.h"
 #include "WaitDialog.h"
 
 #include <gtest/gtest.h>
@@ -40,14 +42,6 @@ protected:
         return m_dialog.GetIsCanceled() != 0;
     }
 
-    static void SendMouse(DWORD flags)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        ::SendInput(1, &input, sizeof(input));
-    }
-
     // The dialog's window that holds the mouse; null when none does.
     static HWND CaptureHolder()
     {
@@ -63,12 +57,14 @@ protected:
         const RECT rect = WaitDialog::Rect();
         const int inside = 25;
         const DWORD patience = 1000;
-        ::SetCursorPos(rect.left + inside, rect.top + inside);
-        SendMouse(MOUSEEVENTF_LEFTDOWN);
+        const CPoint grip(rect.left + inside, rect.top + inside);
+        const CPoint target = grip + CPoint(distance, distance);
+        ::SetCursorPos(grip.x, grip.y);
+        SendMouse(grip, MOUSEEVENTF_LEFTDOWN);
         const bool began = WaitFor([] { return CaptureHolder() == WaitDialog::Find(); }, patience);
-        ::SetCursorPos(rect.left + inside + distance, rect.top + inside + distance);
+        ::SetCursorPos(target.x, target.y);
         const bool followed = WaitFor([&rect] { return WaitDialog::Rect().left != rect.left; }, patience);
-        SendMouse(MOUSEEVENTF_LEFTUP);
+        SendMouse(target, MOUSEEVENTF_LEFTUP);
         return began && followed && WaitFor([] { return CaptureHolder() == NULL; }, patience);
     }
 

@@ -1,4 +1,6 @@
 // The wait dialog as it stands on the screen.
+#include <afxwin.h>
+
 #include <ZNWaitDlgDll.h>
 
 #include "DibCanvas.h"

@@ -1,4 +1,6 @@
 // The wait dialog from outside: what it shows, where it stands, how it is cancelled.
+#include <afxwin.h>
+
 #include <ZNWaitDlgDll.h>
 
 #include "PlainWindow.h"
