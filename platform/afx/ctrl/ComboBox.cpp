@@ -1,5 +1,7 @@
 #include "afx/ctrl/ComboBox.h"
 
+#include "afx/ctrl/OwnerDrawnItems.h"
+
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
 BOOL CComboBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
@@ -29,21 +31,6 @@ void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    switch (message)
-    {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, result);
-    }
+    return afx::RouteItemMessage(*this, message, lParam, result) ||
+           CWnd::OnChildNotify(message, wParam, lParam, result);
 }

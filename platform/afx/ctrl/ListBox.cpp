@@ -1,5 +1,7 @@
 #include "afx/ctrl/ListBox.h"
 
+#include "afx/ctrl/OwnerDrawnItems.h"
+
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
 BOOL CListBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
@@ -60,20 +62,10 @@ int CListBox::CharToItem(UINT, UINT)
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
+    if (afx::RouteItemMessage(*this, message, lParam, result))
+        return TRUE;
     switch (message)
     {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
     case WM_VKEYTOITEM:
         *result = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;

@@ -5,13 +5,14 @@
 #include "DxfImport.h"
 #include "DxfParser.h"
 
+#include <algorithm>
 #include <cctype>
+#include <filesystem>
+#include <fstream>
 #include <new>
 #include <numeric>
 #include <string>
 #include <string_view>
-
-#include <windows.h>
 
 namespace arxdxf
 {
@@ -24,52 +25,20 @@ constexpr std::string_view kBinaryMark = "AutoCAD Binary DXF";
 constexpr std::string_view kDwgMark = "AC1";
 constexpr size_t kDwgMarkLength = 6;
 
-class FileHandle
-{
-public:
-    explicit FileHandle(const wchar_t* path)
-        : m_handle(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, NULL, OPEN_EXISTING, 0, NULL))
-    {
-    }
-    ~FileHandle()
-    {
-        if (IsOpen())
-        {
-            CloseHandle(m_handle);
-        }
-    }
-    FileHandle(const FileHandle&) = delete;
-    FileHandle& operator=(const FileHandle&) = delete;
-
-    bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-    HANDLE Get() const { return m_handle; }
-
-private:
-    HANDLE m_handle;
-};
-
-// ReadFile takes at most this much at once, which leaves room below the limit of its count.
-constexpr Adesk::Int64 kReadStep = 1 << 26;
-
 std::string ReadWholeFile(const wchar_t* path)
 {
     const std::wstring name = path == nullptr ? L"" : path;
-    FileHandle file(name.c_str());
-    LARGE_INTEGER size = {};
-    if (!file.IsOpen() || !GetFileSizeEx(file.Get(), &size))
+    std::ifstream file(std::filesystem::path(name), std::ios::binary | std::ios::ate);
+    if (!file)
     {
         throw DxfError{0, L"无法打开文件：" + name};
     }
-    std::string data(static_cast<size_t>(size.QuadPart), '\0');
-    for (Adesk::Int64 done = 0; done < size.QuadPart;)
+    const std::streamoff size = file.tellg();
+    std::string data(static_cast<size_t>(std::max<std::streamoff>(size, 0)), '\0');
+    file.seekg(0);
+    if (size < 0 || !file.read(&data[0], size))
     {
-        const DWORD wanted = static_cast<DWORD>(std::min<Adesk::Int64>(size.QuadPart - done, kReadStep));
-        DWORD got = 0;
-        if (!ReadFile(file.Get(), &data[static_cast<size_t>(done)], wanted, &got, NULL) || got == 0)
-        {
-            throw DxfError{0, L"无法读取文件：" + name};
-        }
-        done += got;
+        throw DxfError{0, L"无法读取文件：" + name};
     }
     return data;
 }

@@ -2,46 +2,24 @@
 
 #include "SlideParser.h"
 
+#include <filesystem>
+#include <fstream>
+
 namespace Tevrin
 {
 namespace
 {
-class FileHandle
-{
-public:
-    explicit FileHandle(const wchar_t* path)
-        : m_handle(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr))
-    {
-    }
-    ~FileHandle()
-    {
-        if (IsOpen())
-            CloseHandle(m_handle);
-    }
-    FileHandle(const FileHandle&) = delete;
-    FileHandle& operator=(const FileHandle&) = delete;
-
-    bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-    HANDLE Get() const { return m_handle; }
-
-private:
-    HANDLE m_handle;
-};
-
 SlideResult ReadBytes(const wchar_t* path, std::vector<unsigned char>& bytes)
 {
-    const FileHandle file(path);
-    LARGE_INTEGER size = {};
-    if (!file.IsOpen() || !GetFileSizeEx(file.Get(), &size))
+    std::ifstream file(std::filesystem::path(path), std::ios::binary | std::ios::ate);
+    const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : -1;
+    if (size < 0)
         return kSlideNotOpened;
-    if (size.QuadPart > static_cast<LONGLONG>(Slide::kLargestSlide))
+    if (size > static_cast<std::streamoff>(Slide::kLargestSlide))
         return kSlideTooLarge;
-    bytes.resize(static_cast<size_t>(size.QuadPart));
-    DWORD count = 0;
-    if (!bytes.empty() && !ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr))
-        return kSlideNotOpened;
-    bytes.resize(count);
-    return kSlideGood;
+    bytes.resize(static_cast<size_t>(size));
+    file.seekg(0);
+    return file.read(reinterpret_cast<char*>(bytes.data()), size) ? kSlideGood : kSlideNotOpened;
 }
 } // namespace
 

@@ -23,7 +23,7 @@ struct Look
     COLORREF frame;
 };
 
-Look ChooseLook(DWORD style, const XTButtonState& state, const XTButtonColors& colors)
+Look EnabledLook(DWORD style, const XTButtonState& state, const XTButtonColors& colors)
 {
     const auto tint = [&colors](int percent) { return xtp::BlendColors(colors.window, colors.highlight, percent); };
     if (state.pressed && (style & BS_XT_HILITEPRESSED) == 0)
@@ -34,6 +34,12 @@ Look ChooseLook(DWORD style, const XTButtonState& state, const XTButtonColors& c
         return Look{tint(kHotPercent), colors.highlight};
     const COLORREF quiet = xtp::BlendColors(colors.face, colors.shadow, kFramePercent);
     return Look{colors.face, state.isDefault ? colors.darkShadow : quiet};
+}
+
+Look ChooseLook(DWORD style, const XTButtonState& state, const XTButtonColors& colors)
+{
+    const Look look = EnabledLook(style, state, colors);
+    return state.enabled ? look : Look{look.fill, colors.shadow};
 }
 
 bool IsAtRest(const XTButtonState& state)
@@ -49,9 +55,7 @@ void CXTButtonThemeOfficeXP::DrawFace(HDC dc, const RECT& rect, DWORD style, con
 {
     if (IsAtRest(state) && IsBareAtRest(style))
         return;
-    Look look = ChooseLook(style, state, colors);
-    if (!state.enabled)
-        look.frame = colors.shadow;
+    const Look look = ChooseLook(style, state, colors);
     xtp::Fill(dc, rect, look.fill);
     xtp::Frame(dc, rect, look.frame, look.frame);
 }
@@ -73,9 +77,7 @@ void CXTButtonThemeOffice2003::DrawFace(HDC dc, const RECT& rect, DWORD style, c
 {
     if (IsAtRest(state) && IsBareAtRest(style))
         return;
-    Look look = ChooseLook(style, state, colors);
-    if (!state.enabled)
-        look.frame = colors.shadow;
+    const Look look = ChooseLook(style, state, colors);
     const COLORREF bright = xtp::BlendColors(look.fill, colors.light, kGradientPercent);
     const COLORREF dim = xtp::BlendColors(look.fill, colors.shadow, kGradientPercent);
     xtp::FillGradient(dc, rect, state.pressed ? dim : bright, state.pressed ? bright : dim);
