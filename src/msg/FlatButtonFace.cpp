@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/ImageSize.h"
+
 namespace
 {
 
@@ -52,22 +54,6 @@ private:
     COLORREF m_color;
 };
 
-// 0 by 0 for a handle that is no icon.
-CSize IconSize(HICON icon)
-{
-    ICONINFO info = {};
-    if (icon == NULL || !::GetIconInfo(icon, &info))
-        return CSize(0, 0);
-    BITMAP bitmap = {};
-    ::GetObject(info.hbmMask, sizeof(bitmap), &bitmap);
-    // An icon of two colours keeps both of its masks in one bitmap.
-    const CSize size(bitmap.bmWidth, info.hbmColor == NULL ? bitmap.bmHeight / 2 : bitmap.bmHeight);
-    ::DeleteObject(info.hbmMask);
-    if (info.hbmColor != NULL)
-        ::DeleteObject(info.hbmColor);
-    return size;
-}
-
 CPoint IconPlace(const CRect& client, CSize size)
 {
     CRect inside(client);
@@ -114,18 +100,16 @@ CRect FlatButtonContentRect(const CRect& client)
 
 void DrawFlatButtonBitmap(CDC& dc, const CRect& client, HBITMAP bitmap, bool disabled)
 {
-    BITMAP info = {};
-    if (bitmap == NULL || ::GetObject(bitmap, sizeof(info), &info) != sizeof(info))
-        return;
-    const CPoint place = FlatButtonContentRect(client).TopLeft();
-    dc.DrawState(place, CSize(info.bmWidth, info.bmHeight), bitmap,
-                 DST_BITMAP | (disabled ? DSS_DISABLED : DSS_NORMAL));
+    CSize size;
+    if (GetBitmapSize(bitmap, size))
+        dc.DrawState(FlatButtonContentRect(client).TopLeft(), size, bitmap,
+                     DST_BITMAP | (disabled ? DSS_DISABLED : DSS_NORMAL));
 }
 
 void DrawFlatButtonIcon(CDC& dc, const CRect& client, HICON icon, bool disabled)
 {
-    const CSize size = IconSize(icon);
-    if (size.cx > 0 && size.cy > 0)
+    CSize size;
+    if (GetIconSize(icon, size))
         dc.DrawState(IconPlace(client, size), size, icon, disabled ? DSS_DISABLED : DSS_NORMAL);
 }
 

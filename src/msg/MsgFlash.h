@@ -33,7 +33,9 @@ private:
     CMsgFlash(const CMsgFlash&);
     CMsgFlash& operator=(const CMsgFlash&);
 
+    void Unhighlight();
+
     CWnd& m_owner;
     ZnAcadUiBase::CHighlighter* m_highlighter; // owned; null when nothing flashes
-    DWORD m_startTime;                         // ticks
+    DWORD m_startTime;                         // ticks; 0 when nothing flashes
 };

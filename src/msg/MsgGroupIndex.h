@@ -9,6 +9,8 @@
 
 #include <map>
 
+#include "msg/GroupName.h"
+
 class CMsgGroupIndex
 {
 public:
@@ -26,12 +28,6 @@ public:
     int CountVisible(const wchar_t* group, AcApDocument* current) const;
 
 private:
-    // As CString::CompareNoCase compares.
-    struct NoCaseLess
-    {
-        bool operator()(const wchar_t* left, const wchar_t* right) const { return ::_wcsicmp(left, right) < 0; }
-    };
-
     typedef std::map<AcApDocument*, int> Counts;
 
     struct Group
@@ -42,7 +38,7 @@ private:
     };
 
     // Keyed by the text of Group::name, so that a look-up needs no text of its own on the heap.
-    typedef std::map<const wchar_t*, Group, NoCaseLess> Groups;
+    typedef std::map<const wchar_t*, Group, GroupNameLess> Groups;
 
     Group& GroupNamed(const wchar_t* group);
 

@@ -1,6 +1,7 @@
 ﻿#include "msg/MsgGroupTree.h"
 
 #include "base/NoRedraw.h"
+#include "msg/GroupName.h"
 #include "msg/MsgImages.h"
 #include "res/resource.h"
 
@@ -32,7 +33,7 @@ void CMsgGroupTree::ShowGroups(const CStringArray& groups, const CString& wanted
     {
         const HTREEITEM item = InsertGroup(root, i);
         // Without a wanted group the root is meant, even where messages without a group have an item of their own.
-        if (!wanted.IsEmpty() && groups[i].CompareNoCase(wanted) == 0)
+        if (!wanted.IsEmpty() && CompareGroupNames(groups[i], wanted) == 0)
             selected = item;
     }
     Expand(root, TVE_EXPAND);
@@ -54,7 +55,7 @@ void CMsgGroupTree::RemoveGroup(const CString& group)
 {
     for (HTREEITEM item = GetChildItem(GetRootItem()); item != NULL; item = GetNextSiblingItem(item))
     {
-        if (GroupOf(item).CompareNoCase(group) == 0)
+        if (CompareGroupNames(GroupOf(item), group) == 0)
         {
             DeleteItem(item);
             return;

@@ -6,6 +6,7 @@
 #include "base/CursorInside.h"
 #include "base/FlagGuard.h"
 #include "base/PrivateMessages.h"
+#include "msg/GroupName.h"
 #include "msg/MsgObjects.h"
 #include "msg/ZNMsgManager.h"
 #include "res/resource.h"
@@ -52,11 +53,6 @@ const wchar_t kProfileShowTree[] = L"显示树";
 
 // The list forwards the notifications of its header, whose control identifier is 0.
 const UINT kHeaderId = 0;
-
-struct NoCaseLess
-{
-    bool operator()(const CString& left, const CString& right) const { return left.CompareNoCase(right) < 0; }
-};
 
 } // namespace
 
@@ -244,8 +240,10 @@ void CMsgPaletteChildDlg::OnListItemChanged(NMHDR* header, LRESULT* result)
     if (m_updating)
         return;
     const NMLISTVIEW& change = *reinterpret_cast<NMLISTVIEW*>(header);
+    // Whoever is told that the flash ends may have refreshed the viewer.
+    const bool flashed = m_flash.IsRunning();
     m_flash.Stop();
-    if (change.iItem < 0)
+    if (flashed || change.iItem < 0)
         SelectionChanged();
     else if ((change.uChanged & LVIF_STATE) != 0 && ((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0)
         m_selection.Change(CZNMsgManager::Instance(), m_list.GetId(change.iItem),
@@ -384,7 +382,7 @@ int CMsgPaletteChildDlg::FirstSelectedId() const
 void CMsgPaletteChildDlg::DeleteRows(const std::vector<int>& rows)
 {
     const bool showsAll = m_tree.ShowsAll();
-    std::set<CString, NoCaseLess> groups;
+    std::set<CString, GroupNameLess> groups;
     std::vector<int> ids;
     ids.reserve(rows.size());
     for (size_t i = 0; i < rows.size(); ++i)

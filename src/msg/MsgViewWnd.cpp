@@ -64,7 +64,9 @@ CMsgViewWnd::~CMsgViewWnd()
 
 void CMsgViewWnd::Show(bool show)
 {
-    acedGetAcadFrame()->ShowControlBar(this, show, FALSE);
+    CMDIFrameWnd* const frame = acedGetAcadFrame();
+    if (frame != NULL)
+        frame->ShowControlBar(this, show, FALSE);
 }
 
 bool CMsgViewWnd::IsShown() const

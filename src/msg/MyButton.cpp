@@ -1,5 +1,6 @@
 #include "msg/MyButton.h"
 
+#include "base/ImageSize.h"
 #include "msg/FlatButtonFace.h"
 
 namespace
@@ -66,8 +67,8 @@ void CMyButton::SetBitmap(HBITMAP bitmap)
     delete m_bitmap;
     m_bitmap = NULL;
     CRect client;
-    BITMAP info = {};
-    if (m_hWnd == NULL || bitmap == NULL || ::GetObject(bitmap, sizeof(info), &info) != sizeof(info))
+    CSize source;
+    if (m_hWnd == NULL || !GetBitmapSize(bitmap, source))
         return;
     GetClientRect(&client);
     const CSize size(client.Width() - kFrames, client.Height() - kFrames);
@@ -76,7 +77,7 @@ void CMyButton::SetBitmap(HBITMAP bitmap)
     CClientDC dc(this);
     m_bitmap = new CBitmap;
     if (m_bitmap->CreateCompatibleBitmap(&dc, size.cx, size.cy))
-        Compose(*m_bitmap, size, bitmap, CSize(info.bmWidth, info.bmHeight), m_background);
+        Compose(*m_bitmap, size, bitmap, source, m_background);
 }
 
 void CMyButton::SetIcon(HICON icon)

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "msg/GroupName.h"
+
 namespace
 {
 
@@ -34,7 +36,7 @@ public:
     bool operator()(const CZNMsgData& data) const
     {
         const bool meant = m_allDocuments || (data.document != NULL && data.document == m_current);
-        return meant && data.group.CompareNoCase(m_group) == 0;
+        return meant && CompareGroupNames(data.group, m_group) == 0;
     }
 
 private:
@@ -197,7 +199,7 @@ bool CZNMsgManager::CollectVisible(const wchar_t* group, CZNMsgArray& messages) 
     for (INT_PTR i = 0; i < GetSize() && filled < count; ++i)
     {
         const CZNMsgData& data = GetData()[i];
-        if (IsVisible(data, current) && data.group.CompareNoCase(group) == 0)
+        if (IsVisible(data, current) && CompareGroupNames(data.group, group) == 0)
             messages[filled++] = data;
     }
     return true;
@@ -211,7 +213,7 @@ int CZNMsgManager::CountVisible(const wchar_t* group) const
 void CZNMsgManager::CollectVisibleGroups(CStringArray& groups) const
 {
     AcApDocument* const current = CurrentDocument();
-    std::set<CString> seen;
+    std::set<const wchar_t*, GroupNameLess> seen;
     const wchar_t* latest = NULL;
     groups.RemoveAll();
     for (INT_PTR i = GetSize(); i-- > 0;)
@@ -221,9 +223,7 @@ void CZNMsgManager::CollectVisibleGroups(CStringArray& groups) const
         if (!IsVisible(data, current) || static_cast<LPCTSTR>(data.group) == latest)
             continue;
         latest = data.group;
-        CString upper(data.group);
-        upper.MakeUpper();
-        if (seen.insert(upper).second)
+        if (seen.insert(latest).second)
             groups.Add(data.group);
     }
 }

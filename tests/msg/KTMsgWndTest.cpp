@@ -52,6 +52,24 @@ TEST_F(MessageService, GroupsThatDifferInLetterCaseCountTogether)
     EXPECT_EQ(0, KTMsgWnd::GetMsgCount(L"checks"));
 }
 
+TEST_F(MessageService, LetterCaseOfEveryScriptIsDisregarded)
+{
+    const wchar_t* const pairs[][2] = {
+        {L"ПРОВЕРКА", L"проверка"}, {L"Ä图层", L"ä图层"}, {L"ＣＨＥＣＫ", L"ｃｈｅｃｋ"}};
+    for (const auto& pair : pairs)
+    {
+        Add(pair[0], L"one");
+        Add(pair[1], L"two");
+        EXPECT_EQ(2, KTMsgWnd::GetMsgCount(pair[0]));
+        EXPECT_EQ(2, KTMsgWnd::GetMsgCount(pair[1]));
+        CZNMsgArray messages;
+        Store().CollectVisible(pair[0], messages);
+        EXPECT_EQ(2, messages.GetSize());
+        EXPECT_TRUE(KTMsgWnd::RemoveMsg(pair[0], true));
+        EXPECT_EQ(0, Store().GetCount());
+    }
+}
+
 TEST_F(MessageService, RemovingInTheCurrentDocumentKeepsMessagesOfNoDocument)
 {
     arxhost::NewDocument();

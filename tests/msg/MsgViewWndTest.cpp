@@ -5,6 +5,7 @@
 #include "MessageBoxAnswer.h"
 
 #include <cstring>
+#include <memory>
 
 namespace
 {
@@ -266,6 +267,32 @@ TEST_F(MessagePalette, ResourcesOfTheHostAreCurrentAgainAfterwards)
     const HINSTANCE before = AfxGetResourceHandle();
     Show();
     EXPECT_EQ(before, AfxGetResourceHandle());
+}
+
+TEST_F(MessagePalette, OutlivesTheFrameThatItStoodIn)
+{
+    std::unique_ptr<HostFrame> frame(new HostFrame);
+    Add(L"g", L"text");
+    ASSERT_TRUE(Show());
+    frame.reset();
+    EXPECT_FALSE(KTMsgWnd::ShowMsgWnd(false));
+    KTMsgWnd::UpdateMsgWnd();
+    CMsgViewWnd::DestroyInstance();
+    EXPECT_TRUE(Set() == NULL);
+    EXPECT_EQ(1, Store().GetCount());
+    arxhost::SetMainFrame(&m_frame.Wnd());
+    EXPECT_TRUE(Show());
+}
+
+TEST_F(MessagePalette, WithoutAMainFrameNothingIsShown)
+{
+    arxhost::SetMainFrame(NULL);
+    EXPECT_FALSE(KTMsgWnd::ShowMsgWnd(true));
+    KTMsgWnd::UpdateMsgWnd();
+    EXPECT_FALSE(KTMsgWnd::ShowMsgWnd(false));
+    CMsgViewWnd::DestroyInstance();
+    arxhost::SetMainFrame(&m_frame.Wnd());
+    EXPECT_TRUE(Show());
 }
 
 // In a library without the dialog template the viewer cannot be made.

@@ -43,6 +43,29 @@ protected:
     std::vector<AcDbObjectId> m_lines;
 };
 
+// A module that looks after the palette whenever the drawing tells it something.
+class RefreshingObserver : public arxhost::IDocumentObserver
+{
+public:
+    RefreshingObserver() { arxhost::AddObserver(this); }
+    ~RefreshingObserver() override { arxhost::RemoveObserver(this); }
+    void HighlightChanged(AcApDocument*) override { Told(); }
+    void PickfirstChanged(AcApDocument*) override { Told(); }
+    void ViewChanged(AcApDocument*) override { Told(); }
+
+    int Calls() const { return m_calls; }
+
+private:
+    void Told()
+    {
+        ++m_calls;
+        KTMsgWnd::AddMsg(KTMsgWnd::eInfo, L"told", L"text", false, NULL, NULL);
+        KTMsgWnd::UpdateMsgWnd();
+    }
+
+    int m_calls = 0;
+};
+
 constexpr double kTolerance = 1e-6;
 
 } // namespace
@@ -298,6 +321,39 @@ TEST_F(ViewerCommands, CommandsDoNothingInOtherDrawingsAfterTheirsWasClosed)
     EXPECT_EQ(3, Store().GetCount());
     KTMsgWnd::UpdateMsgWnd();
     EXPECT_EQ(0, Rows());
+}
+
+TEST_F(ViewerCommands, MessagesMayComeAndThePaletteBeRefreshedDuringACommand)
+{
+    AddFour();
+    for (const int command : {IDC_FLASH, IDC_SELECT, IDC_ZOOM})
+    {
+        KTMsgWnd::RemoveMsg(L"told", true);
+        KTMsgWnd::UpdateMsgWnd();
+        SelectRows({command == IDC_ZOOM ? 1 : 2});
+        ASSERT_TRUE(IsEnabled(command)) << command;
+        const RefreshingObserver observer;
+        Click(command);
+        EXPECT_GT(observer.Calls(), 0) << command;
+        EXPECT_EQ(4 + observer.Calls(), Rows()) << command;
+        EXPECT_EQ(command == IDC_FLASH, arxhost::IsHighlighted(m_lines[0])) << command;
+    }
+    EXPECT_EQ(arxhost::ObjectIds{m_lines[0]}, arxhost::GetPickfirst(m_document));
+}
+
+TEST_F(ViewerCommands, ThePaletteMayBeRefreshedWhileAFlashEnds)
+{
+    AddFour();
+    SelectRows({2});
+    Click(IDC_FLASH);
+    const RefreshingObserver observer;
+    ListView_SetItemState(Item(IDC_LIST), 3, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(1, observer.Calls());
+    EXPECT_FALSE(arxhost::IsHighlighted(m_lines[0]));
+    EXPECT_FALSE(::KillTimer(Viewer(), ZNKT_TIMER_FLASH));
+    // The refresh has selected the new message, which has no objects.
+    EXPECT_EQ(std::vector<int>{4}, SelectedRows());
+    ExpectCommands(true, false, false);
 }
 
 TEST_F(ViewerCommands, HeaderClickSortsByTheColumnsTexts)

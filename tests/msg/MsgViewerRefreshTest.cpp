@@ -195,6 +195,25 @@ TEST_F(ViewerRefresh, GroupsThatDifferInLetterCaseAreOneItem)
     EXPECT_EQ(2, Rows());
 }
 
+// What the tree shows as one group must come up as one when it is selected.
+TEST_F(ViewerRefresh, GroupsOfOtherScriptsThatDifferInLetterCaseAreOneItem)
+{
+    Add(L"ПРОВЕРКА", L"1");
+    Add(L"проверка", L"2");
+    Show();
+    EXPECT_EQ(Texts{L"проверка"}, GroupTexts());
+    SelectGroup(L"проверка");
+    EXPECT_EQ(2, Rows());
+    KTMsgWnd::UpdateMsgWnd();
+    EXPECT_EQ(2, Rows());
+    SelectRoot();
+    SelectRows({0});
+    Click(IDC_DELETE_SELECTED);
+    EXPECT_EQ(Texts{L"проверка"}, GroupTexts());
+    Click(IDC_DELETE_SELECTED);
+    EXPECT_TRUE(GroupTexts().empty());
+}
+
 TEST_F(ViewerRefresh, SelectingAGroupShowsItsMessagesOnly)
 {
     Add(L"a", L"1");

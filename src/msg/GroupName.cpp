@@ -1,0 +1,22 @@
+#include "msg/GroupName.h"
+
+#include <afxwin.h>
+
+namespace
+{
+
+// The system takes a single character in place of a pointer, and gives it back as a capital.
+wchar_t Capital(wchar_t letter)
+{
+    const LPWSTR alone = reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(letter));
+    return static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(::CharUpperW(alone)));
+}
+
+} // namespace
+
+int CompareGroupNames(const wchar_t* left, const wchar_t* right)
+{
+    for (; *left != L'\0' && (*left == *right || Capital(*left) == Capital(*right)); ++left)
+        ++right;
+    return *left == *right ? 0 : static_cast<int>(Capital(*left)) - static_cast<int>(Capital(*right));
+}
