@@ -141,6 +141,12 @@ void MainFrame::OpenDrawing(const std::wstring& path)
 
 void MainFrame::LoadModule(const std::wstring& name)
 {
+    // Not counted: however often it was asked for, one ARX U lets it go.
+    if (acrxAppIsLoaded(name.c_str()))
+    {
+        m_command.Print(L"模块“" + name + L"”已经加载\n");
+        return;
+    }
     if (!acrxLoadModule(name.c_str(), true))
         throw CommandFailure{L"模块“" + name + L"”加载失败。"};
 }

@@ -32,6 +32,8 @@ void ListModules(MainFrame& frame)
 
 void UnloadModule(const std::wstring& name)
 {
+    if (!acrxAppIsLoaded(name.c_str()))
+        throw CommandFailure{L"没有加载模块“" + name + L"”。"};
     if (!acrxUnloadModule(name.c_str(), true))
         throw CommandFailure{L"模块“" + name + L"”不能卸载。"};
 }

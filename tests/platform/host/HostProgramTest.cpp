@@ -144,6 +144,12 @@ TEST(HostProgram, CommandOfTheArgumentsIsRun)
     EXPECT_EQ(0u, RunHost(L"/c QUIT"));
 }
 
+TEST(HostProgram, ModuleThatWasLoadedTwiceGoesWithTheFirstUnload)
+{
+    EXPECT_EQ(0u, RunScript(L"", "ARX L ZNKTPub.arx\nARX L ZNKTPub.arx\nARX U ZNKTPub.arx\n"));
+    EXPECT_EQ(1u, RunScript(L"", "ARX L ZNKTPub.arx\nARX L ZNKTPub.arx\nARX U ZNKTPub.arx\nARX U ZNKTPub.arx\n"));
+}
+
 TEST(HostProgram, QuitEndsAScriptEarly)
 {
     EXPECT_EQ(0u, RunScript(L"", "QUIT\nNOSUCHCOMMAND\n"));
