@@ -7,9 +7,8 @@ namespace arxhost
 namespace
 {
 
-const ULONGLONG patience = 20000; // milliseconds
-const DWORD pause = 10;           // milliseconds between two looks
-const DWORD paintingTime = 150;   // milliseconds until the window and what it says have reached the screen
+const DWORD pause = 10;         // milliseconds between two looks
+const DWORD paintingTime = 150; // milliseconds until the window and what it says have reached the screen
 
 struct TitleSearch
 {
@@ -32,10 +31,12 @@ BOOL CALLBACK MatchTitle(HWND window, LPARAM parameter)
     return search.found == nullptr;
 }
 
-bool WaitForWindow(const std::wstring& title)
+// Looks again and again, because a window that comes up on another thread tells nobody.
+bool WaitForWindow(const std::wstring& title, unsigned patience)
 {
     TitleSearch search{title, nullptr};
     const ULONGLONG start = GetTickCount64();
+    EnumWindows(&MatchTitle, reinterpret_cast<LPARAM>(&search));
     while (search.found == nullptr && GetTickCount64() - start < patience)
     {
         Sleep(pause);
@@ -45,6 +46,8 @@ bool WaitForWindow(const std::wstring& title)
 }
 
 } // namespace
+
+ScreenWatch::ScreenWatch(unsigned patience) : m_patience(patience) {}
 
 ScreenWatch::~ScreenWatch()
 {
@@ -68,7 +71,7 @@ std::wstring ScreenWatch::Finish()
 
 void ScreenWatch::Run(HWND frame, const std::wstring& title, const std::wstring& path)
 {
-    if (!WaitForWindow(title))
+    if (!WaitForWindow(title, m_patience))
     {
         m_error = L"没有出现标题为“" + title + L"”的窗口。";
         return;

@@ -13,7 +13,8 @@ namespace arxhost
 class ScreenWatch
 {
 public:
-    ScreenWatch() = default;
+    // `patience`: how long a watch waits for its window, milliseconds.
+    explicit ScreenWatch(unsigned patience = 20000);
     ~ScreenWatch();
     ScreenWatch(const ScreenWatch&) = delete;
     ScreenWatch& operator=(const ScreenWatch&) = delete;
@@ -29,6 +30,7 @@ public:
 private:
     void Run(HWND frame, const std::wstring& title, const std::wstring& path);
 
+    const unsigned m_patience;
     std::thread m_thread;
     std::wstring m_error;
 };

@@ -4,10 +4,9 @@
 
 #include "DialogTemplate.h"
 #include "HostFixture.h"
+#include "PictureFile.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 namespace
 {
@@ -20,10 +19,6 @@ class FrameShot : public HostFixture
 protected:
     FrameShot()
     {
-        wchar_t folder[MAX_PATH];
-        ::GetTempPathW(MAX_PATH, folder);
-        m_path = std::wstring(folder) + L"frame_shot_test.png";
-        ::DeleteFileW(m_path.c_str());
         DialogTemplate outer(kTitle, 120, 80, WS_POPUP | WS_CAPTION | DS_SETFONT);
         m_outer.CreateIndirect(outer.Get(), &Frame());
         DialogTemplate inner(kInnerTitle, 60, 30, WS_CHILD | WS_VISIBLE | DS_CONTROL | DS_SETFONT);
@@ -32,29 +27,9 @@ protected:
         Pump();
     }
 
-    ~FrameShot() override
-    {
-        m_outer.DestroyWindow();
-        ::DeleteFileW(m_path.c_str());
-    }
+    ~FrameShot() override { m_outer.DestroyWindow(); }
 
-    // Of the picture that was saved; (0, 0) for none.
-    CSize PictureSize() const
-    {
-        const int header = 24; // signature, chunk head, width, height
-        std::string bytes(header, '\0');
-        std::ifstream file(std::string(m_path.begin(), m_path.end()), std::ios::binary);
-        file.read(&bytes[0], header);
-        const auto number = [&bytes](int at) {
-            int value = 0;
-            for (int i = at; i < at + 4; ++i)
-                value = value * 256 + static_cast<unsigned char>(bytes[static_cast<size_t>(i)]);
-            return value;
-        };
-        return CSize(number(16), number(20));
-    }
-
-    std::wstring m_path;
+    PictureFile m_picture{L"frame_shot_test.png"};
     CDialog m_outer;
     CDialog m_inner;
 };
@@ -63,33 +38,33 @@ protected:
 
 TEST_F(FrameShot, DialogIsTakenAlone)
 {
-    EXPECT_EQ(L"", arxhost::SaveDialogShot(Frame(), kTitle, m_path));
-    EXPECT_EQ(ScreenRectOf(m_outer).Size(), PictureSize());
+    EXPECT_EQ(L"", arxhost::SaveDialogShot(Frame(), kTitle, m_picture.Path()));
+    EXPECT_EQ(ScreenRectOf(m_outer).Size(), m_picture.Size());
 }
 
 TEST_F(FrameShot, DialogInsideADialogIsTakenAlone)
 {
-    EXPECT_EQ(L"", arxhost::SaveDialogShot(Frame(), kInnerTitle, m_path));
-    EXPECT_EQ(ScreenRectOf(m_inner).Size(), PictureSize());
+    EXPECT_EQ(L"", arxhost::SaveDialogShot(Frame(), kInnerTitle, m_picture.Path()));
+    EXPECT_EQ(ScreenRectOf(m_inner).Size(), m_picture.Size());
 }
 
 TEST_F(FrameShot, MissingOrHiddenDialogIsToldByItsTitle)
 {
-    EXPECT_NE(std::wstring::npos, arxhost::SaveDialogShot(Frame(), L"没有", m_path).find(L"没有"));
+    EXPECT_NE(std::wstring::npos, arxhost::SaveDialogShot(Frame(), L"没有", m_picture.Path()).find(L"没有"));
     m_outer.ShowWindow(SW_HIDE);
-    EXPECT_NE(L"", arxhost::SaveDialogShot(Frame(), kTitle, m_path));
-    EXPECT_NE(L"", arxhost::SaveDialogShot(Frame(), kInnerTitle, m_path));
-    EXPECT_EQ(CSize(0, 0), PictureSize());
+    EXPECT_NE(L"", arxhost::SaveDialogShot(Frame(), kTitle, m_picture.Path()));
+    EXPECT_NE(L"", arxhost::SaveDialogShot(Frame(), kInnerTitle, m_picture.Path()));
+    EXPECT_EQ(CSize(0, 0), m_picture.Size());
 }
 
 TEST_F(FrameShot, FrameIsTakenWithTheDialogsThatReachOverIt)
 {
     m_outer.SetWindowPos(NULL, 10, 10, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    EXPECT_EQ(L"", arxhost::SaveFrameShot(Frame(), m_path));
+    EXPECT_EQ(L"", arxhost::SaveFrameShot(Frame(), m_picture.Path()));
     CRect both;
     both.UnionRect(ScreenRectOf(Frame()), ScreenRectOf(m_outer));
-    EXPECT_EQ(both.Size(), PictureSize());
-    EXPECT_LT(ScreenRectOf(Frame()).Width(), PictureSize().cx);
+    EXPECT_EQ(both.Size(), m_picture.Size());
+    EXPECT_LT(ScreenRectOf(Frame()).Width(), m_picture.Size().cx);
 }
 
 TEST_F(FrameShot, DialogOfADialogBelongsToTheFrame)
