@@ -2,6 +2,7 @@
 
 #include "afx/app/Resource.h"
 #include "afx/app/WinApp.h"
+#include "afx/dialog/DialogCommands.h"
 #include "afx/dialog/DialogProcedure.h"
 #include "afx/dialog/DialogTemplateLock.h"
 #include "afx/dialog/DisabledWindow.h"
@@ -20,8 +21,6 @@ END_MESSAGE_MAP()
 namespace
 {
 const int CreationFailed = -1;
-const UINT FirstCommandId = 0x8000; // lower ids belong to controls
-const UINT FirstSystemCommand = 0xF000;
 const size_t ClassNameSize = 32;
 } // namespace
 
@@ -151,17 +150,7 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 
 BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    // Notifications of controls end here; commands go on to the owner and the thread.
-    const bool isCommand = code == CN_COMMAND || code == static_cast<int>(CN_UPDATE_COMMAND_UI);
-    if (!isCommand || id < FirstCommandId || id >= FirstSystemCommand)
-        return FALSE;
-    CWnd* const owner = GetParent();
-    if (owner != nullptr && owner->OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    CWinThread* const thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(id, code, extra, handlerInfo);
+    return CWnd::OnCmdMsg(id, code, extra, handlerInfo) || OfferToOwnerAndThread(*this, id, code, extra, handlerInfo);
 }
 
 BOOL CDialog::CheckAutoCenter()

@@ -2,6 +2,7 @@
 #include <afxdlgs.h>
 
 #include "afx/app/WinApp.h"
+#include "afx/dialog/DialogCommands.h"
 #include "afx/dialog/DisabledWindow.h"
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
@@ -16,8 +17,6 @@ namespace
 {
 const int CreationFailed = -1;
 const DWORD DefaultStyle = static_cast<DWORD>(-1);
-const UINT FirstCommandId = 0x8000; // lower ids belong to controls
-const UINT FirstSystemCommand = 0xF000;
 const int Buttons[] = {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP};
 
 // Both forms of a template begin with what is written here; the extended one is told by its second word.
@@ -278,17 +277,7 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* message)
 
 BOOL CPropertySheet::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    // Notifications of controls end here; commands go on to the owner and the thread.
-    const bool isCommand = code == CN_COMMAND || code == static_cast<int>(CN_UPDATE_COMMAND_UI);
-    if (!isCommand || id < FirstCommandId || id >= FirstSystemCommand)
-        return FALSE;
-    CWnd* const owner = GetParent();
-    if (owner != nullptr && owner->OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    CWinThread* const thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(id, code, extra, handlerInfo);
+    return CWnd::OnCmdMsg(id, code, extra, handlerInfo) || OfferToOwnerAndThread(*this, id, code, extra, handlerInfo);
 }
 
 // The system ends a sheet by having no current page any more.
