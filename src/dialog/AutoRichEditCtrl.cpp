@@ -59,9 +59,11 @@ CAutoRichEditCtrl::~CAutoRichEditCtrl()
 CString CAutoRichEditCtrl::GetRTF()
 {
     CString text;
+    if (m_hWnd == NULL)
+        return text;
+    ReserveRtf(text, static_cast<int>(GetTextLengthEx(GTL_DEFAULT)));
     EDITSTREAM stream = {reinterpret_cast<DWORD_PTR>(&text), 0, &WriteRtf};
-    if (m_hWnd != NULL)
-        StreamOut(SF_RTF, stream);
+    StreamOut(SF_RTF, stream);
     return text;
 }
 

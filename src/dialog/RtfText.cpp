@@ -1,9 +1,14 @@
 #include "dialog/RtfText.h"
 
+#include <algorithm>
+
 namespace
 {
 
 const wchar_t kFirstBeyondAscii = 0x80;
+const int kRtfHead = 1024;      // tables of fonts and colours
+const int kCharactersAWord = 4; // one more character in so many for the words of the markup
+const int kLargestHint = 1 << 28;
 
 } // namespace
 
@@ -43,6 +48,12 @@ void CRtfReader::Escape(wchar_t character)
 {
     m_escapeLength = ::wsprintfA(m_escape, "\\u%d?", static_cast<int>(static_cast<short>(character)));
     m_escapeUsed = 0;
+}
+
+void ReserveRtf(CString& text, int characters)
+{
+    const int hint = std::max(0, std::min(characters, kLargestHint));
+    text.Preallocate(kRtfHead + hint + hint / kCharactersAWord);
 }
 
 void AppendRtf(CString& text, const BYTE* bytes, LONG count)

@@ -33,6 +33,10 @@ private:
     int m_escapeUsed;
 };
 
+// Makes room for the RTF of so many characters of mostly plain text, so that it is not moved while it grows. RTF that
+// is longer than that may still be appended.
+void ReserveRtf(CString& text, int characters);
+
 // Appends bytes to a text that grows by its own size each time it is full, so that many pieces take time in proportion
 // to the whole.
 void AppendRtf(CString& text, const BYTE* bytes, LONG count);

@@ -144,6 +144,18 @@ TEST_F(AutoRichEdit, AMegabyteOfTextGoesInAndOut)
     EXPECT_GE(m_edit.GetRTF().GetLength(), length);
 }
 
+TEST_F(AutoRichEdit, TheTextThatComesOutHasLittleUnusedRoom)
+{
+    for (const int length : {30001, 40001, 50001, 60001})
+    {
+        CAutoRichEditCtrl edit(0); // a new one each, as to replace a long text takes the control long
+        Create(edit);
+        edit.SetRTF(Lines(length));
+        const CString rtf = edit.GetRTF();
+        EXPECT_LT(rtf.GetAllocLength(), rtf.GetLength() / 2 * 3) << length;
+    }
+}
+
 // Characters.
 
 struct ToggleRow

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <string>
 #include <vector>
 
@@ -106,6 +107,31 @@ TEST(AppendRtf, KeepsZerosAndHighBytes)
     ASSERT_EQ(3, text.GetLength());
     EXPECT_EQ(0, text[1]);
     EXPECT_EQ(0xE9, text[2]);
+}
+
+// The RTF of a long text of lines does not move while it is written.
+TEST(AppendRtf, StaysWhereItIsInTheRoomThatWasMadeForIt)
+{
+    CString text;
+    const int characters = 100000;
+    ReserveRtf(text, characters);
+    const wchar_t* const before = text;
+    const BYTE piece[100] = {};
+    for (int i = 0; i < (characters + characters / 5) / 100; ++i)
+        AppendRtf(text, piece, 100);
+    EXPECT_EQ(before, text.GetString());
+    EXPECT_LT(text.GetAllocLength(), characters + characters / 3) << "little room stays unused";
+}
+
+TEST(AppendRtf, RoomForNoTextAtAllMakesNoTrouble)
+{
+    for (const int characters : {0, -1, INT_MIN})
+    {
+        CString text(L"{");
+        ReserveRtf(text, characters);
+        AppendRtf(text, reinterpret_cast<const BYTE*>("}"), 1);
+        EXPECT_STREQ(L"{}", text);
+    }
 }
 
 TEST(AppendRtf, MovesTheTextSeldomWhileItGrows)
