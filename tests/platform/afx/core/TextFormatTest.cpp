@@ -73,6 +73,41 @@ TEST(TextFormat, FormatsLikeTheRuntime)
     EXPECT_EQ(L"50% of 3", Formatted(L"%d%% of %d", 50, Green));
 }
 
+TEST(TextFormat, KnowsEveryTypeAndFlag)
+{
+    EXPECT_EQ(L"-5 5", Formatted(L"%i %u", -5, 5));
+    EXPECT_EQ(L"1.5 1.5E-010 1.5 1.5", Formatted(L"%g %G %g %g", 1.5, 1.5e-10, 1.5f, 1.5));
+    EXPECT_EQ(L"1.500000E+000", Formatted(L"%E", 1.5));
+    EXPECT_EQ(Formatted(L"%A", 1.5).size(), Formatted(L"%a", 1.5).size());
+    EXPECT_EQ(0u, Formatted(L"%a", 1.5).find(L"0x1.8"));
+    EXPECT_EQ(0u, Formatted(L"%A", 1.5).find(L"0X1.8"));
+    EXPECT_EQ(L"[ 5] [-5]", Formatted(L"[% d] [% d]", 5, -5)) << "a blank in place of a plus sign";
+    EXPECT_EQ(L"2.", Formatted(L"%#.0f", 2.0));
+}
+
+TEST(TextFormat, KnowsEverySize)
+{
+    EXPECT_EQ(L"4294967295 -1", Formatted(L"%I32u %I32d", -1, -1));
+    EXPECT_EQ(L"9000000000 12345678900", Formatted(L"%Id %Iu", 9000000000LL, 12345678900LL));
+    EXPECT_EQ(L"-1 -32768 65535", Formatted(L"%hd %hi %hu", 65535, 32768, -1)) << "16 bits";
+    EXPECT_EQ(L"-1 4294967295", Formatted(L"%ld %lu", 0xFFFFFFFFLL, -1LL)) << "32 bits";
+    EXPECT_EQ(L"wide wide wide", Formatted(L"%ws %ls %lS", L"wide", L"wide", L"wide"));
+    EXPECT_EQ(L"文文", Formatted(L"%lc%lC", L'文', L'文'));
+    EXPECT_EQ(L"narrow A", Formatted(L"%hS %hc", "narrow", 'A'));
+    EXPECT_EQ(L"1.50", Formatted(L"%.2Lf", 1.5));
+}
+
+TEST(TextFormat, APrecisionWithoutDigitsIsZero)
+{
+    EXPECT_EQ(L"2 []", Formatted(L"%.f [%.s]", 1.7, L"text"));
+}
+
+TEST(TextFormat, CharactersHaveAWidthButNoPrecision)
+{
+    EXPECT_EQ(L"[  A] [B  ]", Formatted(L"[%3c] [%-3c]", 'A', 'B'));
+    EXPECT_EQ(L"A", Formatted(L"%.0c", 'A'));
+}
+
 TEST(TextFormat, TakesWidthAndPrecisionFromArguments)
 {
     EXPECT_EQ(L"[    7]", Formatted(L"[%*d]", 5, 7));
@@ -96,6 +131,7 @@ TEST(TextFormat, ArgumentsOfAnotherKindComeOutAsTheDirectiveStands)
     EXPECT_EQ(L"%s %S", Formatted(L"%s %S", "narrow", L"wide"));
     int number = 0;
     EXPECT_EQ(L"%s %f", Formatted(L"%s %f", &number, &number));
+    EXPECT_EQ(L"%s %S %p", Formatted(L"%s %S %p", 0.0, 0.0, 1.5)) << "a real number is no text and no pointer";
 }
 
 TEST(TextFormat, NeverWritesThroughAnArgument)
@@ -136,6 +172,8 @@ TEST(TextFormat, HugeWidthsAreNoDirectives)
 {
     EXPECT_EQ(L"%999999999d", Formatted(L"%999999999d", 1));
     EXPECT_EQ(L"%.99999999999999999999f", Formatted(L"%.99999999999999999999f", 1.0));
+    EXPECT_EQ(L"%999999999.2f", Formatted(L"%999999999.2f", 1.0)) << "whatever the precision is";
+    EXPECT_EQ(L"%4294967297d", Formatted(L"%4294967297d", 1)) << "one in 32 bits";
     EXPECT_EQ(32767u, Formatted(L"%32767d", 1).size());
     EXPECT_EQ(32767u, Formatted(L"%*d", INT_MAX, 1).size()) << "an argument is brought into bounds";
     EXPECT_EQ(L"1", Formatted(L"%.*d", INT_MIN, 1));
