@@ -56,7 +56,7 @@ protected:
 
     static bool WaitForSelection(const std::vector<int>& rows)
     {
-        return WaitFor([&rows] { return SelectedRows() == rows; });
+        return WaitThroughFramework([&rows] { return SelectedRows() == rows; });
     }
 };
 
@@ -82,6 +82,32 @@ TEST_F(ViewerInput, ArrowKeysMoveTheSelection)
     ASSERT_TRUE(SelectByClick(0));
     PressKey(VK_DOWN);
     EXPECT_TRUE(WaitForSelection({1}));
+}
+
+TEST_F(ViewerInput, TabReachesTheButtonsAndTheSpaceBarPressesThem)
+{
+    const auto hasFocus = [](int id) { return WaitThroughFramework([id] { return ::GetFocus() == Item(id); }); };
+    ASSERT_TRUE(SelectByClick(1));
+    // The buttons in between are disabled: the message has neither objects nor an area.
+    PressKey(VK_TAB, VK_SHIFT);
+    ASSERT_TRUE(hasFocus(IDC_DELETE_SHOWN));
+    PressKey(VK_TAB, VK_SHIFT);
+    ASSERT_TRUE(hasFocus(IDC_DELETE_SELECTED));
+    PressKey(VK_SPACE);
+    EXPECT_TRUE(WaitThroughFramework([] { return Rows() == 3; }));
+    EXPECT_EQ((Texts{L"one", L"three", L"four"}), Column(3));
+    PressKey(VK_TAB, VK_SHIFT);
+    ASSERT_TRUE(hasFocus(IDC_SHOW_TREE));
+    PressKey(VK_TAB, VK_SHIFT);
+    EXPECT_TRUE(hasFocus(IDC_TREE));
+}
+
+TEST_F(ViewerInput, ControlClickAddsARow)
+{
+    ASSERT_TRUE(SelectByClick(0));
+    SendKey(VK_CONTROL, 0);
+    EXPECT_TRUE(ClickMouseUntil(CentreOfRow(2), [] { return SelectedRows() == (std::vector<int>{0, 2}); }));
+    SendKey(VK_CONTROL, KEYEVENTF_KEYUP);
 }
 
 TEST_F(ViewerInput, EnterAndEscapeLeaveTheViewerOpen)
