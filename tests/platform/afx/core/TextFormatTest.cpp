@@ -113,7 +113,7 @@ TEST(TextFormat, TakesWidthAndPrecisionFromArguments)
     EXPECT_EQ(L"[    7]", Formatted(L"[%*d]", 5, 7));
     EXPECT_EQ(L"[7    ]", Formatted(L"[%*d]", -5, 7));
     EXPECT_EQ(L"[ 1.50]", Formatted(L"[%*.*f]", 5, 2, 1.5));
-    EXPECT_EQ(L"[abc]", Formatted(L"[%.*s]", -1, L"abc"));
+    EXPECT_EQ(L"[abc] [abc]", Formatted(L"[%.*s] [%.*S]", -1, L"abc", -1, "abc"));
     EXPECT_EQ(L"[%*d]", Formatted(L"[%*d]", L"no number", 7)) << "a text is no width";
 }
 
