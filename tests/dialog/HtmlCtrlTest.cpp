@@ -3,12 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <exdispid.h>
+
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "BrokenControl.h"
+#include "CountingBrowser.h"
 #include "DialogTemplate.h"
 #include "Wait.h"
 #include "dialog/HtmlCtrl.h"
@@ -176,6 +179,21 @@ TEST_F(HtmlCtrl, ABrokenBrowserFailsTheCreation)
     EXPECT_EQ(0, broken.Alive());
 }
 
+TEST_F(HtmlCtrl, ABrowserThatRefusesAPartFailsTheCreation)
+{
+    for (const CountingBrowser::Refusal refusal :
+         {CountingBrowser::Container, CountingBrowser::Point, CountingBrowser::Connection, CountingBrowser::Activation})
+    {
+        Form dialog;
+        const CountingBrowser browser(refusal);
+        EXPECT_FALSE(html.CreateFromStatic(kStaticId, &dialog)) << refusal;
+        EXPECT_EQ(nullptr, html.m_hWnd) << refusal;
+        EXPECT_EQ(nullptr, dialog.GetDlgItem(kStaticId)) << refusal;
+        EXPECT_EQ(browser.Advised(), browser.Unadvised()) << refusal;
+        EXPECT_EQ(0, browser.Alive()) << refusal;
+    }
+}
+
 // Commands.
 
 TEST_F(HtmlCtrl, AnAppAddressIsACommandAndDoesNotNavigate)
@@ -303,6 +321,22 @@ TEST_F(HtmlCtrl, ReleasesTheBrowserWithItsWindow)
     html.DestroyWindow();
     EXPECT_EQ(nullptr, html.m_pBrowserApp.p);
     EXPECT_EQ(0u, browser->Release());
+}
+
+TEST_F(HtmlCtrl, GivesItsConnectionToTheBrowserBackWithItsWindow)
+{
+    CountingBrowser browser;
+    for (int i = 1; i <= 2; ++i)
+    {
+        Form dialog;
+        ASSERT_TRUE(html.CreateFromStatic(kStaticId, &dialog));
+        EXPECT_EQ(i, browser.Advised());
+        EXPECT_EQ(i - 1, browser.Unadvised());
+        dialog.DestroyWindow();
+        EXPECT_EQ(i, browser.Unadvised());
+        EXPECT_EQ(0, browser.Alive());
+        EXPECT_FALSE(browser.Fire(DISPID_TITLECHANGE)) << "nobody is connected any more";
+    }
 }
 
 TEST_F(HtmlCtrl, LivesOnAsAMemberWhenItsWindowGoes)
