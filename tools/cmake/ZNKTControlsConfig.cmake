@@ -5,6 +5,38 @@
 
 get_filename_component(_znkt_root "${CMAKE_CURRENT_LIST_DIR}/../../.." ABSOLUTE)
 
+# Why the compiler of the calling project cannot link with this SDK; empty when it can.
+function(_znkt_compiler_fault result)
+  set(toolchain "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_CURRENT_LIST_DIR}/mingw-w64-client.cmake")
+  set(needed "This SDK needs an x86_64 mingw-w64 compiler with the posix thread model (Debian and Ubuntu: g++-mingw-w64-x86-64-posix).")
+  set(fault "")
+  if(NOT CMAKE_CXX_COMPILER)
+    set(fault "The project has no C++ compiler. ${needed} Write project(name LANGUAGES CXX) before find_package.")
+  elseif(NOT WIN32)
+    set(fault "The compiler ${CMAKE_CXX_COMPILER} makes programs for ${CMAKE_SYSTEM_NAME}, not for Windows. ${needed} "
+      "In a new build folder give cmake ${toolchain}")
+  elseif(MSVC OR CMAKE_CXX_SIMULATE_ID STREQUAL "MSVC")
+    set(fault "Visual C++ cannot link with these libraries. ${needed} "
+      "With Visual C++ a module is built against the real SDKs: see examples/client_template/README.md.")
+  elseif(NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(fault "The compiler ${CMAKE_CXX_COMPILER} makes 32-bit programs. ${needed} In a new build folder give cmake ${toolchain}")
+  elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -v OUTPUT_QUIET ERROR_VARIABLE version)
+    if(version MATCHES "Thread model: win32")
+      set(fault "The compiler ${CMAKE_CXX_COMPILER} has the thread model win32. ${needed} In a new build folder give cmake ${toolchain}")
+    endif()
+  endif()
+  string(CONCAT fault ${fault})
+  set(${result} "${fault}" PARENT_SCOPE)
+endfunction()
+
+_znkt_compiler_fault(_znkt_fault)
+if(_znkt_fault)
+  set(ZNKTControls_FOUND FALSE)
+  set(ZNKTControls_NOT_FOUND_MESSAGE "${_znkt_fault}")
+  return()
+endif()
+
 function(_znkt_import target file)
   if(TARGET ${target})
     return()
@@ -60,6 +92,9 @@ endif()
 
 # A module: a DLL named <name>.arx, an extension DLL of the framework, with the two exports that the host asks for.
 function(znkt_add_arx_module name)
+  if(NOT ARGN)
+    message(FATAL_ERROR "znkt_add_arx_module(${name}): the sources are missing: znkt_add_arx_module(${name} ${name}.cpp ...)")
+  endif()
   add_library(${name} SHARED ${ARGN})
   target_compile_definitions(${name} PRIVATE _AFXEXT)
   # First: the sibling modules export the same name, and theirs must not stand in for the module's own.

@@ -23,6 +23,8 @@ if(MSVC)
   set(ZNKT_WARNINGS /W4 /WX)
 else()
   set(ZNKT_WARNINGS -Wall -Wextra -Werror -Wno-unknown-pragmas)
+  # A failed assertion names its file: by its place in the project, not on this machine.
+  add_compile_options($<$<CONFIG:Debug>:-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=>)
 endif()
 
 # Own code of a target: definitions and warnings as errors.
@@ -49,6 +51,26 @@ function(znkt_add_arx_module name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   znkt_add_dll(${name} SUFFIX ".arx" SOURCES ${ARG_SOURCES} LIBS ${ARG_LIBS})
   target_compile_definitions(${name} PRIVATE _AFXEXT)
+endfunction()
+
+# What Windows shows of a file under "details": znkt_version_info(arxhost "图形主机"). The version is the project's.
+function(znkt_version_info target description)
+  string(REPLACE "." "," ZNKT_FILE_VERSION "${PROJECT_VERSION},0")
+  set(ZNKT_FILE_DESCRIPTION "${description}")
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    set(ZNKT_FILE_TYPE VFT_APP)
+  else()
+    set(ZNKT_FILE_TYPE VFT_DLL)
+  endif()
+  set(ZNKT_FILE_TARGET "${target}")
+  set(script "${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc")
+  configure_file("${PROJECT_SOURCE_DIR}/tools/cmake/version.rc.in" "${script}" @ONLY)
+  target_sources(${target} PRIVATE "${script}")
+  if(MINGW)
+    # windres does not obey the script's own code page line.
+    set_source_files_properties("${script}" PROPERTIES COMPILE_OPTIONS "-c;65001")
+  endif()
 endfunction()
 
 # A test program of one subsystem and one rung:

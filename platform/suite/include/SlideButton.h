@@ -10,6 +10,8 @@
 
 #include <afxwin.h>
 
+#include "ZnQFCBaseU.h"
+
 namespace Tevrin
 {
 class Slide;
