@@ -149,6 +149,26 @@ private:
 
 PaletteEnd* PaletteEnd::s_current = NULL;
 
+// Notes when the common part of the start-up comes.
+class NotingApp : public CZNKTControlsApp
+{
+public:
+    explicit NotingApp(const wchar_t* companion) : CZNKTControlsApp(companion) {}
+
+    void RegisterServerComponents() override
+    {
+        ++m_starts;
+        m_hadCompanion = acrxAppIsLoaded(kCompanion);
+    }
+
+    int Starts() const { return m_starts; }
+    bool HadCompanion() const { return m_hadCompanion; }
+
+private:
+    int m_starts = 0;
+    bool m_hadCompanion = false;
+};
+
 SIZE_T PrivateBytes()
 {
     PROCESS_MEMORY_COUNTERS_EX counters = {};
@@ -174,9 +194,20 @@ TEST_F(ModuleEntry, LoadsTheCompanionAndLetsItGoAgain)
 
 TEST_F(ModuleEntry, RefusesToStartWithoutItsCompanion)
 {
-    CZNKTControlsApp app(L"no such companion.arx");
+    NotingApp app(L"no such companion.arx");
     EXPECT_EQ(AcRx::kRetError, app.acrxEntryPoint(AcRx::kInitAppMsg, NULL));
     EXPECT_EQ(3, AcRx::kRetError);
+    EXPECT_EQ(0, app.Starts()) << "nothing else is initialised";
+}
+
+TEST_F(ModuleEntry, LoadsItsCompanionBeforeAnythingElse)
+{
+    NotingApp app(kCompanion);
+    EXPECT_EQ(AcRx::kRetOK, app.acrxEntryPoint(AcRx::kInitAppMsg, NULL));
+    EXPECT_EQ(1, app.Starts());
+    EXPECT_TRUE(app.HadCompanion());
+    EXPECT_EQ(AcRx::kRetOK, app.acrxEntryPoint(AcRx::kUnloadAppMsg, NULL));
+    EXPECT_FALSE(acrxAppIsLoaded(kCompanion));
 }
 
 TEST_F(ModuleEntry, CanBeUnloadedAtAnyTime)

@@ -144,6 +144,17 @@ TEST_F(MessageStore, RemovesByDocument)
     EXPECT_EQ(0, Store().GetCount());
 }
 
+TEST_F(MessageStore, RemovesWhatBelongsToNoDocument)
+{
+    arxhost::NewDocument();
+    Add(L"g", L"of a drawing", true);
+    Add(L"g", L"everywhere");
+    EXPECT_TRUE(Store().RemoveDocument(NULL, false));
+    EXPECT_EQ(Texts{L"of a drawing"}, VisibleTexts());
+    EXPECT_FALSE(Store().RemoveDocument(NULL, true));
+    EXPECT_EQ(1, Store().CountVisible(L"g"));
+}
+
 TEST_F(MessageStore, CollectsTheVisibleOfAGroup)
 {
     arxhost::NewDocument();
@@ -175,6 +186,10 @@ TEST_F(MessageStore, CollectingReplacesWhatTheArrayHeld)
     AddMany(2);
     Store().CollectVisible(messages);
     EXPECT_EQ((Texts{L"0", L"1"}), TextsOf(messages));
+    EXPECT_TRUE(Store().CollectVisible(L"odd", messages));
+    EXPECT_EQ(Texts{L"1"}, TextsOf(messages));
+    EXPECT_FALSE(Store().CollectVisible(L"unknown", messages));
+    EXPECT_EQ(0, messages.GetSize());
 }
 
 TEST_F(MessageStore, ListsGroupsNewestFirstSpelledAsInTheNewestMessage)

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <limits.h>
+#include <string.h>
 #include <string>
 
 namespace
@@ -188,9 +189,14 @@ TEST(TextFormat, TakesTextsOfAnyLength)
 
 TEST(TextFormat, NarrowTextsNeedNoEndWithinTheirPrecision)
 {
-    const char unterminated[] = {'a', 'b', 'c'};
-    const char* const begin = unterminated;
-    EXPECT_EQ(L"ab", Formatted(L"%.2S", begin));
+    // The text ends where the memory ends.
+    const SIZE_T page = 4096;
+    char* const memory = static_cast<char*>(::VirtualAlloc(NULL, 2 * page, MEM_RESERVE, PAGE_NOACCESS));
+    ASSERT_TRUE(::VirtualAlloc(memory, page, MEM_COMMIT, PAGE_READWRITE) != NULL);
+    char* const begin = memory + page - 3;
+    memcpy(begin, "abc", 3);
+    EXPECT_EQ(L"ab abc", Formatted(L"%.2S %.3S", begin, begin));
+    ::VirtualFree(memory, 0, MEM_RELEASE);
 }
 
 TEST(TextFormat, BytesOutsideTheCodePageDoNoHarm)
