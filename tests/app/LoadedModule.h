@@ -6,6 +6,7 @@
 
 #include <rxregsvc.h>
 
+#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -38,10 +39,13 @@ public:
 
     int ApiVersion() const { return Find<int (*)()>("acrxGetApiVersion")(); }
 
-    bool Add(const wchar_t* group, const wchar_t* text) const
+    bool Add(const wchar_t* group, const wchar_t* text, int times = 1) const
     {
-        return Find<decltype(&KTMsgWnd::AddMsg)>("_ZN8KTMsgWnd6AddMsgE")(KTMsgWnd::eInfo, group, text, false, NULL,
-                                                                         NULL);
+        const auto add = Find<decltype(&KTMsgWnd::AddMsg)>("_ZN8KTMsgWnd6AddMsgE");
+        bool added = true;
+        for (int i = 0; i < times; ++i)
+            added = add(KTMsgWnd::eInfo, group, text, false, NULL, NULL) && added;
+        return added;
     }
 
     int Count(const wchar_t* group) const
@@ -65,7 +69,7 @@ public:
         {
             const char* const name = reinterpret_cast<const char*>(base + names[i]);
             // By way of void*, because the compiler warns of casts between function types.
-            if (std::string(name).compare(0, begin.size(), begin) == 0)
+            if (std::strncmp(name, begin.c_str(), begin.size()) == 0)
                 return reinterpret_cast<FUNCTION>(reinterpret_cast<void*>(::GetProcAddress(Handle(), name)));
         }
         throw std::runtime_error("the module does not export " + begin);

@@ -364,8 +364,7 @@ TEST_F(ModuleEntry, UnloadFreesTheStore)
     const auto cycle = [] {
         LoadedModule module;
         ASSERT_TRUE(module.IsLoaded());
-        for (int i = 0; i < 50000; ++i)
-            ASSERT_TRUE(module.Add(L"g", L"a text of some length, kept for every message of its own"));
+        ASSERT_TRUE(module.Add(L"g", L"a text of some length, kept for every message of its own", 50000));
     };
     // The first rounds let the heap take its shape.
     cycle();
