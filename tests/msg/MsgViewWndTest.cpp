@@ -309,7 +309,7 @@ TEST_F(MessagePalette, TellsThatTheViewerCouldNotBeCreated)
     ASSERT_EQ(1u, answer.Boxes().size());
     EXPECT_EQ(L"错误", answer.Boxes()[0].caption);
     EXPECT_EQ(L"创建失败！", answer.Boxes()[0].text);
-    EXPECT_FALSE(answer.Boxes()[0].hasYesAndNo);
+    EXPECT_EQ(1, answer.Boxes()[0].buttons);
     EXPECT_EQ(::LoadIconW(NULL, IDI_ERROR), answer.Boxes()[0].icon);
     // The empty palette takes every request.
     EXPECT_TRUE(Viewer() == NULL);

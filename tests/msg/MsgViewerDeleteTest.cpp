@@ -213,6 +213,7 @@ TEST_F(ViewerDelete, AllShownAsksBeforeDeletingEverything)
     EXPECT_EQ(L"确认", answer.Boxes()[0].caption);
     EXPECT_EQ(L"真的删除全部消息吗?", answer.Boxes()[0].text);
     EXPECT_TRUE(answer.Boxes()[0].hasYesAndNo);
+    EXPECT_EQ(2, answer.Boxes()[0].buttons);
     EXPECT_EQ(::LoadIconW(NULL, IDI_QUESTION), answer.Boxes()[0].icon);
     EXPECT_EQ(3, Rows());
     EXPECT_EQ(3, Store().GetCount());

@@ -83,7 +83,8 @@ protected:
         if (answer.Boxes().size() != 1)
             return L"<no box>";
         EXPECT_EQ(L"Tevrin提示", answer.Boxes()[0].caption);
-        EXPECT_FALSE(answer.Boxes()[0].hasYesAndNo);
+        EXPECT_EQ(1, answer.Boxes()[0].buttons);
+        EXPECT_TRUE(answer.Boxes()[0].icon == NULL);
         return answer.Boxes()[0].text;
     }
 
@@ -184,7 +185,8 @@ TEST_F(MsgObject, MessageBoxBelongsToTheGivenParent)
     Report(CMsgCallback::eInfo, L"text");
     const MessageBoxAnswer answer(IDOK);
     object.ShowMessageBox(m_frame.Wnd().m_hWnd);
-    EXPECT_EQ(1u, answer.Boxes().size());
+    ASSERT_EQ(1u, answer.Boxes().size());
+    EXPECT_EQ(m_frame.Wnd().m_hWnd, answer.Boxes()[0].owner);
 }
 
 TEST_F(MsgObject, WithoutMessagesNothingIsPresented)

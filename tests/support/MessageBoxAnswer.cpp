@@ -24,6 +24,15 @@ HICON IconOf(HWND box)
     return NULL;
 }
 
+int CountButtons(HWND box)
+{
+    int count = 0;
+    HWND child = NULL;
+    while ((child = ::FindWindowExW(box, child, L"Button", NULL)) != NULL)
+        ++count;
+    return count;
+}
+
 bool IsDialog(HWND window)
 {
     wchar_t name[16] = L"";
@@ -61,6 +70,8 @@ void MessageBoxAnswer::Press(HWND window)
     box.caption = TextOf(window);
     box.text = TextOf(::GetDlgItem(window, kText));
     box.hasYesAndNo = ::GetDlgItem(window, IDYES) != NULL && ::GetDlgItem(window, IDNO) != NULL;
+    box.buttons = CountButtons(window);
+    box.owner = ::GetWindow(window, GW_OWNER);
     box.icon = IconOf(window);
     m_boxes.push_back(box);
     ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(m_button), 0);

@@ -18,6 +18,8 @@ public:
         std::wstring caption;
         std::wstring text;
         bool hasYesAndNo = false;
+        int buttons = 0; // how many there are
+        HWND owner = NULL;
         HICON icon = NULL;
     };
 
