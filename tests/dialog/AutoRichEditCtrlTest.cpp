@@ -2,6 +2,7 @@
 #include "RichEditFixture.h"
 
 #include "GdiCount.h"
+#include "MessageBoxAnswer.h"
 
 #include <algorithm>
 
@@ -240,6 +241,37 @@ TEST_F(AutoRichEdit, AColourReplacesTheAutomaticOne)
     EXPECT_EQ(RGB(1, 2, 3), Format(0, 2).crTextColor);
     EXPECT_FALSE(Format(0, 2).dwEffects & CFE_AUTOCOLOR);
     EXPECT_TRUE(Format(2, 4).dwEffects & CFE_AUTOCOLOR);
+}
+
+TEST_F(AutoRichEdit, AColourThatTheUserChoosesReplacesTheAutomaticOne)
+{
+    SetText(L"text");
+    m_edit.SetSel(0, 2);
+    const MessageBoxAnswer accepted(IDOK);
+    m_edit.SetColor();
+    ASSERT_EQ(1u, accepted.Boxes().size());
+    EXPECT_FALSE(Format(0, 2).dwEffects & CFE_AUTOCOLOR);
+    EXPECT_TRUE(Format(2, 4).dwEffects & CFE_AUTOCOLOR);
+}
+
+TEST_F(AutoRichEdit, TheUserChoosesFromTheColourThatThereIs)
+{
+    SetText(L"text");
+    m_edit.SetSel(0, 2);
+    m_edit.SetColor(RGB(0, 128, 64));
+    const MessageBoxAnswer accepted(IDOK);
+    m_edit.SetColor();
+    EXPECT_EQ(RGB(0, 128, 64), Format(0, 2).crTextColor);
+}
+
+TEST_F(AutoRichEdit, AUserWhoCancelsKeepsTheColour)
+{
+    SetText(L"text");
+    m_edit.SetSel(0, 2);
+    const MessageBoxAnswer cancelled(IDCANCEL);
+    m_edit.SetColor();
+    ASSERT_EQ(1u, cancelled.Boxes().size());
+    EXPECT_TRUE(Format(0, 2).dwEffects & CFE_AUTOCOLOR);
 }
 
 TEST_F(AutoRichEdit, FontsAreNamed)

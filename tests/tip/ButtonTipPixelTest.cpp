@@ -4,6 +4,7 @@
 #include "GdiCount.h"
 #include "tip/ButtonTipDrawing.h"
 #include "tip/TipWindow.h"
+#include "tip/ToolTipXTButton.h"
 #include "tip/XTButtonToolTipWnd.h"
 
 #include <climits>
@@ -158,6 +159,28 @@ TEST_F(ButtonTipPicture, TheWindowShowsTextColoursAndFrameItWasGiven)
     EXPECT_EQ(kFrame, picture->Pixel(119, 73));
     EXPECT_EQ(kBack, picture->Pixel(2, 2));
     Draw(L"HHHH HHHH HHHH"); // a height of the font below 1 is 12
+    for (int y = 0; y < 74; ++y)
+    {
+        for (int x = 0; x < 120; ++x)
+            ASSERT_TRUE(picture->Near(x, y, m_canvas.Pixel(x, y))) << x << "," << y;
+    }
+}
+
+TEST_F(ButtonTipPicture, TheTipOfAButtonIsBlackOnLightYellowInTwelvePixels)
+{
+    OwnerWindow owner;
+    CToolTipXTButton button(NULL);
+    button.Create(L"button", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(150, 100, 250, 125), &owner, 7);
+    button.SetToolTip(L"HHHH HHHH HHHH");
+    MSG move = {};
+    move.hwnd = button.m_hWnd;
+    move.message = WM_MOUSEMOVE;
+    button.PreTranslateMessage(&move);
+    const HWND tip = ::FindWindowW(L"ZNXTButtonToolTipWnd", NULL);
+    ASSERT_NE(nullptr, tip);
+    const auto picture = Picture(tip);
+    const ButtonTipLook look = {L"HHHH HHHH HHHH", &m_font, RGB(255, 255, 200), RGB(0, 0, 0)};
+    DrawButtonTip(*CDC::FromHandle(m_canvas.Dc()), CRect(0, 0, 120, 74), look);
     for (int y = 0; y < 74; ++y)
     {
         for (int x = 0; x < 120; ++x)

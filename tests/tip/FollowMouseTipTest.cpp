@@ -3,6 +3,7 @@
 
 #include "GdiCount.h"
 #include "TraceCapture.h"
+#include "WindowOrder.h"
 #include "tip/TipWindow.h"
 
 #include <algorithm>
@@ -78,6 +79,43 @@ TEST_F(FollowTip, TheWindowClassIsTheDocumentedOne)
 TEST_F(FollowTip, AWindowClassWithoutANameThrows)
 {
     EXPECT_THROW(RegisterTipClass(L"", 0, NULL), CResourceException*);
+}
+
+TEST_F(FollowTip, TheFontOfTipsIsTheStatedOne)
+{
+    CFont font;
+    CreateTipFont(font, 12);
+    LOGFONT description = {};
+    ASSERT_TRUE(font.GetLogFont(&description));
+    EXPECT_EQ(-12, description.lfHeight);
+    EXPECT_EQ(400, description.lfWeight);
+    EXPECT_EQ(134, description.lfCharSet);
+    EXPECT_EQ(3, description.lfOutPrecision);
+    EXPECT_EQ(2, description.lfClipPrecision);
+    EXPECT_EQ(1, description.lfQuality);
+    EXPECT_EQ(2, description.lfPitchAndFamily);
+    EXPECT_STREQ(L"\x5B8B\x4F53", description.lfFaceName);
+}
+
+// The place is that of the first window, which is 20 pixels high; the text makes it larger and does not move it.
+TEST_F(FollowTip, TheFirstMessageComesUpBesideThePointer)
+{
+    ::SetCursorPos(650, 410);
+    CFollowMouseTipWnd::ShowMsg(L"a\nb\nc", 5, NULL);
+    EXPECT_EQ(CPoint(650 + 15, 410 - 20 - 10), ScreenRect(Tip()).TopLeft());
+}
+
+TEST_F(FollowTip, ATipThatComesBackIsAboveTheOtherWindows)
+{
+    for (const wchar_t* text : {L"a", L"a\nb\nc"})
+    {
+        CFollowMouseTipWnd::ShowMsg(L"a", 5, NULL);
+        CFollowMouseTipWnd::Hide();
+        m_owner.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        ASSERT_TRUE(IsAbove(m_owner.m_hWnd, Tip()));
+        CFollowMouseTipWnd::ShowMsg(text, 5, NULL);
+        EXPECT_TRUE(IsAbove(Tip(), m_owner.m_hWnd));
+    }
 }
 
 TEST_F(FollowTip, ASecondMessageUsesTheSameWindow)

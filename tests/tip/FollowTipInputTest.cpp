@@ -46,6 +46,17 @@ TEST_F(FollowTipInput, FollowsEverywhereWithoutAWatchedWindow)
     EXPECT_TRUE(MoveMouseUntil(kElsewhere, [this] { return Pointer() == kElsewhere && IsBesidePointer(); }));
 }
 
+TEST_F(FollowTipInput, FollowsTheMouseOverACaptionToo)
+{
+    m_owner.ModifyStyle(0, WS_CAPTION, SWP_FRAMECHANGED);
+    const CRect place = ScreenRect(m_owner.m_hWnd);
+    const CPoint caption(place.left + 100, place.top + ::GetSystemMetrics(SM_CYCAPTION) / 2);
+    ASSERT_EQ(HTCAPTION, m_owner.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(caption.x, caption.y)));
+    CFollowMouseTipWnd::SetWatchWnd(&m_owner);
+    CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
+    EXPECT_TRUE(MoveMouseUntil(caption, [this, caption] { return Pointer() == caption && IsBesidePointer(); }));
+}
+
 TEST_F(FollowTipInput, StaysHiddenAfterHide)
 {
     CFollowMouseTipWnd::ShowMsg(L"a", 60, NULL);
