@@ -1,12 +1,16 @@
-﻿// OPEN NEW CLOSE ZOOM PAN SELECT ERASE MSLIDE: commands on drawings.
+﻿// OPEN NEW CLOSE ZOOM PAN SELECT ERASE MSLIDE HOVER: commands on drawings.
+#include "host/DialogSearch.h"
 #include "host/DrawingFrame.h"
 #include "host/DrawingView.h"
 #include "host/FilePrompt.h"
 #include "host/HostCommands.h"
 #include "host/MainFrame.h"
+#include "host/PaletteDriver.h"
 #include "host/PointText.h"
+#include "host/ScreenCursor.h"
 #include "host/SlideRecorder.h"
 
+#include <cmath>
 #include <shlwapi.h>
 
 namespace arxhost
@@ -21,6 +25,7 @@ const wchar_t zoomUsage[] = L"ZOOM（缩放） E | IN | OUT | 倍数x | W x1,y1 
 const wchar_t panUsage[] = L"PAN（平移） dx,dy：按图形单位平移视图";
 const wchar_t selectUsage[] = L"SELECT（选择） ALL | NONE | x,y | W x1,y1 x2,y2 | C x1,y1 x2,y2：选择对象";
 const wchar_t slideUsage[] = L"MSLIDE（制作幻灯片） 文件.sld：把当前视图保存为幻灯片";
+const wchar_t hoverUsage[] = L"HOVER（悬停） x,y | 编号 对话框标题：把鼠标移到当前图形的一点，或者控件的中央";
 const wchar_t eraseUsage[] = L"ERASE（删除） [选择方式]：删除选中的对象";
 
 const double zoomStep = 2;
@@ -136,6 +141,35 @@ void EraseObjects(MainFrame& frame, const Words& words)
     frame.Command().Print(L"删除 " + std::to_wstring(Erase(ids)) + L" 个对象\n");
 }
 
+CPoint PlaceInView(DrawingView& view, WorldPoint point)
+{
+    const PixelPoint pixel = view.Transform().ToPixel(point);
+    const CPoint place(static_cast<int>(std::lround(pixel.x)), static_cast<int>(std::lround(pixel.y)));
+    CRect client;
+    view.GetClientRect(&client);
+    if (!client.PtInRect(place))
+        throw CommandFailure{L"该点不在视图之内。"};
+    CPoint onScreen = place;
+    view.ClientToScreen(&onScreen);
+    return onScreen;
+}
+
+CPoint PlaceOfControl(MainFrame& frame, int id, const std::wstring& title)
+{
+    const HWND dialog = FindDialog(frame.m_hWnd, title);
+    const HWND control = dialog == NULL ? NULL : FindControl(dialog, id);
+    CRect area;
+    if (!::GetWindowRect(control, &area))
+        throw CommandFailure{L"对话框“" + title + L"”中没有控件 " + std::to_wstring(id) + L"。"};
+    return area.CenterPoint();
+}
+
+void Hover(MainFrame& frame, const Words& words)
+{
+    MoveScreenCursor(words.size() > 1 ? PlaceOfControl(frame, NeedNumber(words[0]), words[1])
+                                      : PlaceInView(frame.NeedView(), NeedPoint(words, 0, hoverUsage)));
+}
+
 bool WriteBytes(const std::wstring& path, const std::string& bytes)
 {
     CFile file;
@@ -183,6 +217,7 @@ std::vector<HostCommand> DrawingCommands()
         {L"SELECT,选择", selectUsage, &Select},
         {L"ERASE,E,删除", eraseUsage, &EraseObjects},
         {L"MSLIDE,制作幻灯片", slideUsage, &MakeSlide},
+        {L"HOVER,悬停", hoverUsage, &Hover},
     };
 }
 

@@ -175,8 +175,7 @@ void DrawingView::OnMouseMove(UINT flags, CPoint point)
     }
     if (MainFrame* frame = MainFrame::Of(*this))
         frame->CursorOverDrawing(ToWorld(point));
-    const WorldPoint place = ToWorld(point);
-    TellCursor(m_drawing, AcGePoint2d(place.x, place.y));
+    TellMonitors(ToWorld(point));
 }
 
 BOOL DrawingView::OnMouseWheel(UINT /*flags*/, short delta, CPoint point)
@@ -280,10 +279,21 @@ void DrawingView::DrawBand(HDC dc) const
     Rectangle(dc, box.left, box.top, box.right + 1, box.bottom + 1);
 }
 
+AcDbObjectId DrawingView::At(WorldPoint place)
+{
+    return List().Pick({place.x, place.y}, pickReach * Transform().UnitsPerPixel());
+}
+
+void DrawingView::TellMonitors(WorldPoint place)
+{
+    const bool isPicking = IsPickForced(m_drawing) && !m_panning && !m_band.IsActive();
+    const AcDbObjectId hit = isPicking ? At(place) : AcDbObjectId();
+    TellCursor(m_drawing, AcGePoint2d(place.x, place.y), hit.isNull() ? ObjectIds() : ObjectIds(1, hit));
+}
+
 void DrawingView::PickAt(CPoint point, bool takeOut)
 {
-    const WorldPoint world = ToWorld(point);
-    const AcDbObjectId hit = List().Pick({world.x, world.y}, pickReach * Transform().UnitsPerPixel());
+    const AcDbObjectId hit = At(ToWorld(point));
     if (!hit.isNull())
     {
         ChangeSelection(ObjectIds(1, hit), takeOut);

@@ -63,6 +63,9 @@ protected:
 private:
     void Store(const ViewTransform& view);
     void DrawBand(HDC dc) const;
+    // The object in the pick aperture; null when there is none.
+    AcDbObjectId At(WorldPoint place);
+    void TellMonitors(WorldPoint place);
     void PickAt(CPoint point, bool takeOut);
     void SelectByBand(bool takeOut);
     void ChangeSelection(const ObjectIds& ids, bool takeOut);

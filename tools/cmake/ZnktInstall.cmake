@@ -9,7 +9,7 @@ include(CMakePackageConfigHelpers)
 
 set(ZNKT_PLATFORM_TARGETS afx arx xtp ZnQFCBaseU ZNKTPub ZnAcadUiBase ZNKTRes ZNWaitDlgDll)
 set(ZNKT_LIBRARY_TARGETS ${ZNKT_PLATFORM_TARGETS} ZNKTControls)
-set(ZNKT_EXAMPLE_TARGETS drawing_check gallery)
+set(ZNKT_EXAMPLE_TARGETS drawing_check entity_hover gallery)
 
 install(TARGETS arxhost ${ZNKT_LIBRARY_TARGETS}
   RUNTIME DESTINATION bin

@@ -156,12 +156,25 @@ bool SetView(AcApDocument* document, const ViewState& view)
     return true;
 }
 
-void TellCursor(AcApDocument* document, const AcGePoint2d& place)
+bool IsPickForced(const AcApDocument* document)
 {
-    if (const Document* found = DocumentManager::Instance().Find(document))
+    const Document* found = DocumentManager::Instance().Find(document);
+    return found != nullptr && found->inputPointManager()->IsPickForced();
+}
+
+void TellCursor(AcApDocument* document, const AcGePoint2d& place, const ObjectIds& picked)
+{
+    const Document* found = DocumentManager::Instance().Find(document);
+    if (found == nullptr)
     {
-        found->inputPointManager()->Tell(AcEdInputPoint(document, AcGePoint3d(place.x, place.y, 0)));
+        return;
     }
+    AcDbObjectIdArray entities;
+    for (const AcDbObjectId& id : picked)
+    {
+        entities.append(id);
+    }
+    found->inputPointManager()->Tell(AcEdInputPoint(document, AcGePoint3d(place.x, place.y, 0), entities));
 }
 
 ObjectIds GetHighlighted(const AcApDocument* document)

@@ -120,9 +120,11 @@ ARX_API bool IsDocument(const AcApDocument* document);
 ARX_API ViewState GetView(const AcApDocument* document);
 ARX_API bool SetView(AcApDocument* document, const ViewState& view);
 
-// The cursor moved over the view, in drawing units: tells the document's input point monitors. Nothing for something
-// that is no document.
-ARX_API void TellCursor(AcApDocument* document, const AcGePoint2d& place);
+// Whether a client wants to know what is under the cursor. False for something that is no document.
+ARX_API bool IsPickForced(const AcApDocument* document);
+// The cursor moved over the view, in drawing units: tells the document's input point monitors, and what the cursor is
+// over when that is wanted. Nothing for something that is no document.
+ARX_API void TellCursor(AcApDocument* document, const AcGePoint2d& place, const ObjectIds& picked = ObjectIds());
 
 // Highlighting and the pickfirst selection, in the order in which objects came in. Erased objects are left out.
 // Highlighting is a state of its own: the host shows the union of both.

@@ -35,6 +35,22 @@ Acad::ErrorStatus InputPointManager::removePointMonitor(AcEdInputPointMonitor* m
     return Acad::eOk;
 }
 
+Acad::ErrorStatus InputPointManager::turnOnForcedPick()
+{
+    ++m_forcedPicks;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus InputPointManager::turnOffForcedPick()
+{
+    if (m_forcedPicks == 0)
+    {
+        return Acad::eInvalidInput;
+    }
+    --m_forcedPicks;
+    return Acad::eOk;
+}
+
 void InputPointManager::Tell(const AcEdInputPoint& input) const
 {
     AcEdInputPointMonitorResult result;

@@ -11,6 +11,7 @@
 //     curDoc()->inputPointManager()->addPointMonitor(&monitor);
 #pragma once
 
+#include "dbidar.h"
 #include "dbmain.h"
 #include "gepnt3d.h"
 
@@ -20,15 +21,22 @@ class AcApDocument;
 class AcEdInputPoint
 {
 public:
-    AcEdInputPoint(AcApDocument* document, const AcGePoint3d& rawPoint) : m_document(document), m_rawPoint(rawPoint) {}
+    AcEdInputPoint(AcApDocument* document, const AcGePoint3d& rawPoint, const AcDbObjectIdArray& pickedEntities)
+        : m_document(document), m_rawPoint(rawPoint), m_pickedEntities(pickedEntities)
+    {
+    }
 
     AcApDocument* document() const { return m_document; }
     // In drawing units, as the cursor points: the host snaps to nothing.
     const AcGePoint3d& rawPoint() const { return m_rawPoint; }
+    // The entity in the pick aperture around the cursor, none or one: the host looks for the nearest. Always empty
+    // unless someone turned the forced pick on, and while the user pans or draws a selection window.
+    const AcDbObjectIdArray& pickedEntities() const { return m_pickedEntities; }
 
 private:
     AcApDocument* m_document;
     AcGePoint3d m_rawPoint;
+    AcDbObjectIdArray m_pickedEntities;
 };
 
 // What a monitor gives back. The host has no tooltips of its own that a text could be added to, so that nothing is
@@ -56,6 +64,11 @@ public:
     // called. eInvalidInput for null, eDuplicateKey for one that is there already, eKeyNotFound for one that is not.
     virtual Acad::ErrorStatus addPointMonitor(AcEdInputPointMonitor* monitor) = 0;
     virtual Acad::ErrorStatus removePointMonitor(AcEdInputPointMonitor* monitor) = 0;
+
+    // Has the host look what is under the cursor at every move, for pickedEntities(). Calls are counted: it ends with
+    // as many calls of turnOffForcedPick(), of which one too many is eInvalidInput.
+    virtual Acad::ErrorStatus turnOnForcedPick() = 0;
+    virtual Acad::ErrorStatus turnOffForcedPick() = 0;
 
 protected:
     AcEdInputPointManager();

@@ -114,6 +114,16 @@ TEST(HostProgram, SlideThatCannotBeSavedEndsTheScriptWithOne)
     EXPECT_EQ(1u, RunScript(L"", "CLOSE\nMSLIDE a.sld\n")) << "there is no drawing";
 }
 
+TEST(HostProgram, MouseIsMovedOverTheDrawingAndOverControls)
+{
+    EXPECT_EQ(0u, RunScript(L"", "HOVER 210,148.5\n"));
+    EXPECT_EQ(1u, RunScript(L"", "HOVER 100000,0\n")) << "not in the view";
+    EXPECT_EQ(1u, RunScript(L"", "HOVER here\n"));
+    EXPECT_EQ(1u, RunScript(L"", "HOVER\n"));
+    EXPECT_EQ(1u, RunScript(L"", "HOVER 3 nosuchdialog\n"));
+    EXPECT_EQ(1u, RunScript(L"", "CLOSE\nHOVER 210,148.5\n")) << "no drawing";
+}
+
 TEST(HostProgram, CommandThatFailsEndsTheScriptWithOne)
 {
     EXPECT_EQ(1u, RunScript(L"", "NEW\nNOSUCHCOMMAND\n"));

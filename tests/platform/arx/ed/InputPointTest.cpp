@@ -61,6 +61,7 @@ public:
         ++calls;
         document = input.document();
         point = input.rawPoint();
+        picked = input.pickedEntities();
         if (leaves)
         {
             document->inputPointManager()->removePointMonitor(this);
@@ -72,6 +73,7 @@ public:
     bool leaves = false;
     AcApDocument* document = nullptr;
     AcGePoint3d point;
+    AcDbObjectIdArray picked;
 };
 
 class InputPoint : public HostTest
@@ -190,6 +192,33 @@ TEST_F(InputPoint, MonitorsHearWhereTheCursorIs)
     EXPECT_EQ(Acad::eOk, m_document->inputPointManager()->removePointMonitor(&monitor));
     arxhost::TellCursor(m_document, AcGePoint2d(9, 9));
     EXPECT_EQ(1, monitor.calls);
+}
+
+TEST_F(InputPoint, MonitorsHearWhatTheCursorIsOver)
+{
+    Monitor monitor;
+    m_document->inputPointManager()->addPointMonitor(&monitor);
+    const AcDbObjectId entity = m_document->database()->blockTableId(); // any object does
+    arxhost::TellCursor(m_document, AcGePoint2d(5, 6), {entity});
+    ASSERT_EQ(1, monitor.picked.length());
+    EXPECT_EQ(entity, monitor.picked[0]);
+    arxhost::TellCursor(m_document, AcGePoint2d(5, 6));
+    EXPECT_TRUE(monitor.picked.isEmpty());
+}
+
+TEST_F(InputPoint, PickIsForcedAsLongAsSomeoneWantsIt)
+{
+    AcEdInputPointManager* manager = m_document->inputPointManager();
+    EXPECT_FALSE(arxhost::IsPickForced(m_document));
+    EXPECT_EQ(Acad::eInvalidInput, manager->turnOffForcedPick());
+    EXPECT_EQ(Acad::eOk, manager->turnOnForcedPick());
+    EXPECT_EQ(Acad::eOk, manager->turnOnForcedPick());
+    EXPECT_EQ(Acad::eOk, manager->turnOffForcedPick());
+    EXPECT_TRUE(arxhost::IsPickForced(m_document));
+    EXPECT_FALSE(arxhost::IsPickForced(arxhost::NewDocument())) << "another document";
+    EXPECT_EQ(Acad::eOk, manager->turnOffForcedPick());
+    EXPECT_FALSE(arxhost::IsPickForced(m_document));
+    EXPECT_FALSE(arxhost::IsPickForced(nullptr));
 }
 
 TEST_F(InputPoint, MonitorIsRegisteredOnce)
