@@ -1,4 +1,4 @@
-// Values of entities as a draughtsman reads them. No window, no drawing.
+﻿// Values of entities as a draughtsman reads them. No window, no drawing.
 #pragma once
 
 #include <dbcolor.h>
