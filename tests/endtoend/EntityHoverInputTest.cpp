@@ -32,6 +32,13 @@ std::wstring WriteDrawing()
     return path;
 }
 
+std::wstring LongTextOf(HWND window)
+{
+    std::wstring text(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
+    text.resize(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(&text[0])));
+    return text;
+}
+
 BOOL CALLBACK TakeView(HWND window, LPARAM found)
 {
     // The frame's client window has the same identifier as the views in it.
@@ -47,10 +54,11 @@ class EntityHoverInput : public testing::Test
 protected:
     void SetUp() override
     {
-        m_host.reset(new HostProcess(L"\"" + WriteDrawing() + L"\" /ld ZNKTControls.arx /ld entity_hover.arx"));
-        ASSERT_TRUE(WaitFor([&] { return FindView() || !m_host->IsRunning(); }, g_patience));
+        m_host.reset(new HostProcess(L"\"" + WriteDrawing() + L"\" /ld ZNKTControls.arx /ld entity_hover.arx /c HELP"));
+        ASSERT_TRUE(WaitFor([&] { return HasStarted() || !m_host->IsRunning(); }, g_patience));
         ASSERT_TRUE(m_host->IsRunning());
-        ASSERT_TRUE(WaitFor([this] { return IsZoomed(GetParent(m_view)) != FALSE; }, g_patience));
+        EnumChildWindows(Frame(), &TakeView, reinterpret_cast<LPARAM>(&m_view));
+        ASSERT_TRUE(m_view != NULL);
         CRect client;
         GetClientRect(m_view, &client);
         ClientToScreen(m_view, &client.TopLeft());
@@ -58,13 +66,11 @@ protected:
         m_line = client.CenterPoint();
     }
 
-    bool FindView()
-    {
-        const HWND history = m_host->FindControl(L"Edit", g_history);
-        if (history != NULL)
-            EnumChildWindows(GetAncestor(history, GA_ROOT), &TakeView, reinterpret_cast<LPARAM>(&m_view));
-        return m_view != NULL;
-    }
+    HWND History() const { return m_host->FindControl(L"Edit", g_history); }
+    HWND Frame() const { return GetAncestor(History(), GA_ROOT); }
+
+    // The list of commands comes after everything is loaded and laid out.
+    bool HasStarted() const { return LongTextOf(History()).find(L"ENTITYHOVER") != std::wstring::npos; }
 
     HWND Window() const { return GetParent(m_host->FindControl(g_richEdit, g_text)); }
     bool IsShown() const { return m_host->FindControl(g_richEdit, g_text) != NULL; }
@@ -101,9 +107,9 @@ TEST_F(EntityHoverInput, OverNothingTheWindowHidesAndOverTheLineItComesUpAgain)
 
 TEST_F(EntityHoverInput, WhatTheUserTypesGoesOnToTheCommandLine)
 {
-    SetForegroundWindow(GetAncestor(m_view, GA_ROOT));
+    SetForegroundWindow(Frame());
     ASSERT_TRUE(RestOnLine());
-    ASSERT_TRUE(WaitFor([this] { return GetForegroundWindow() == GetAncestor(m_view, GA_ROOT); }));
+    ASSERT_TRUE(WaitFor([this] { return GetForegroundWindow() == Frame(); }));
     EXPECT_TRUE(IsShown());
     INPUT key = {};
     key.type = INPUT_KEYBOARD;
@@ -120,13 +126,13 @@ TEST_F(EntityHoverInput, ClosingTheLastDrawingAndTheHostUnderTheWindowIsHarmless
     PostMessageW(GetParent(m_view), WM_CLOSE, 0, 0);
     EXPECT_TRUE(WaitFor([this] { return !IsWindow(m_view) && !IsShown(); }));
     EXPECT_TRUE(m_host->IsRunning());
-    PostMessageW(GetAncestor(m_host->FindControl(L"Edit", g_history), GA_ROOT), WM_CLOSE, 0, 0);
+    PostMessageW(Frame(), WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, m_host->WaitForEnd(g_patience));
 }
 
 TEST_F(EntityHoverInput, TheHostEndsUnderTheWindow)
 {
     ASSERT_TRUE(RestOnLine());
-    PostMessageW(GetAncestor(m_view, GA_ROOT), WM_CLOSE, 0, 0);
+    PostMessageW(Frame(), WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, m_host->WaitForEnd(g_patience));
 }
