@@ -5,6 +5,7 @@
 #include "base/ModuleResources.h"
 #include "dialog/CheckMsgBlock.h"
 #include "dialog/CheckMsgPosts.h"
+#include "dialog/CheckMsgThreads.h"
 #include "dialog/CheckSpecificationMsgDlg.h"
 #include "res/resource.h"
 
@@ -75,6 +76,7 @@ bool CCheckSpecMsgThread::IsDlgShowed() const
 
 BOOL CCheckSpecMsgThread::InitInstance()
 {
+    AddCheckMsgThread();
     m_hook = ::SetWindowsHookEx(WH_GETMESSAGE, &CCheckSpecMsgThread::OnGetMessage, NULL, ::GetCurrentThreadId());
     const CModuleResources resources;
     m_pDlg = new CCheckSpecificationMsgDlg;

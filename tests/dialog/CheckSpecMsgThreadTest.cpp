@@ -2,6 +2,7 @@
 #include "CheckMsgFixture.h"
 
 #include "dialog/CheckMsgBlock.h"
+#include "dialog/CheckMsgThreads.h"
 
 namespace
 {
@@ -368,6 +369,27 @@ TEST_F(CheckSpecMsgThread, TheEndComesThroughAfterTheMainThreadWasBusy)
     ::WaitForSingleObject(m_thread->m_hThread, 300); // busy
     EXPECT_TRUE(WaitFor([this] { return m_thread->HasEnded(); }));
     EXPECT_FALSE(IsShown());
+}
+
+TEST_F(CheckSpecMsgThread, TheModulesEndEndsAThreadThatTheClientForgot)
+{
+    StartThread();
+    ShowMsg({L"a"});
+    ASSERT_TRUE(WaitUntilShown(true));
+    EndCheckMsgThreads();
+    EXPECT_TRUE(m_thread->HasEnded());
+    EndCheckMsgThreads(); // there is none left
+}
+
+TEST_F(CheckSpecMsgThread, TheModulesEndWaitsForAThreadThatTheClientEnded)
+{
+    StartThread();
+    const int queued = 2000; // keep it at work
+    for (int i = 0; i < queued; ++i)
+        ShowMsg({L"a"});
+    m_thread->End();
+    EndCheckMsgThreads();
+    EXPECT_TRUE(m_thread->HasEnded());
 }
 
 TEST_F(CheckSpecMsgThread, AFrameThatGoesFirstHarmsNobody)

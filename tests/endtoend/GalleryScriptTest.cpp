@@ -40,3 +40,8 @@ TEST(GalleryScript, ModuleIsUnloadedUnderItsWindow)
     EXPECT_EQ(0u, RunScript("GALLERY\nARX U gallery.arx\nZOOM E\n"));
     EXPECT_EQ(1u, RunScript("GALLERY\nARX U gallery.arx\nGALLERY\n")) << "the command leaves with the module";
 }
+
+TEST(GalleryScript, ModulesAreUnloadedUnderTheCheckWindow)
+{
+    EXPECT_EQ(0u, RunScript("GALLERYPAGE check-window\nHOVER 2251 控件库\nDELAY 700\n"));
+}
