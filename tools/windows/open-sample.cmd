@@ -9,4 +9,4 @@ if not exist "%bin%\arxhost.exe" (
   pause
   exit /b 1
 )
-start "" "%bin%\arxhost.exe" "%bin%\drawings\bracket.dxf" /ld ZNKTControls.arx /ld drawing_check.arx /ld gallery.arx %*
+start "" "%bin%\arxhost.exe" "%bin%\drawings\bracket.dxf" /ld ZNKTControls.arx /ld drawing_check.arx /ld gallery.arx /ld entity_hover.arx %*
