@@ -140,6 +140,8 @@ void CComboButton::DrawItemContent(LPDRAWITEMSTRUCT drawItem)
         return;
 
     const CSavedDC saved(dc);
+    if (HasDropZone(state.itemCount))
+        dc.ExcludeClipRect(DropZone(drawItem->rcItem)); // its background is there already and would not cover a long name
     const bool disabled = state.disabled || !item->Enabled();
     const CString caption = item->GetName();
     const CSize captionSize = MeasureItemText(dc, caption);

@@ -3,9 +3,9 @@
 // there opens a menu of all items, and the entry chosen becomes the default item and runs.
 //
 //     CComboButton m_new;                            // DDX_Control, in place of a plain button
-//     m_new.AddItem(&m_newFile);                     // CComboButtonItem objects of the dialog; the first one is the
-//     default m_new.AddItem(&m_newFromTemplate); m_new.SetComboButtonStyle(CBTS_SHOWIMAGE | CBTS_IMAGEANDTEXT |
-//     CBTS_GRADIENT);
+//     m_new.AddItem(&m_newFile);                     // CComboButtonItem objects of the dialog; the first is the default
+//     m_new.AddItem(&m_newFromTemplate);
+//     m_new.SetComboButtonStyle(CBTS_SHOWIMAGE | CBTS_IMAGEANDTEXT | CBTS_GRADIENT);
 //
 // The button never owns items: the owner removes an item before it deletes it. Items are asked anew whether they are
 // enabled each time the button is drawn or pressed; after a change of that the owner redraws the button.

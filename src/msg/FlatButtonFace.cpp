@@ -1,8 +1,9 @@
 #include "msg/FlatButtonFace.h"
 
-#include <algorithm>
-
 #include "base/ImageSize.h"
+#include "base/SelectedObject.h"
+
+#include <algorithm>
 
 namespace
 {
@@ -10,28 +11,6 @@ namespace
 const int kCornerEllipse = 2;
 const int kFramePixels = 1;
 const UINT kCaptionFormat = DT_WORDBREAK | DT_CENTER;
-
-// Guard: an object is selected into a device context while it lives. Null selects nothing.
-class CSelected
-{
-public:
-    CSelected(CDC& dc, HGDIOBJ object) : m_dc(dc.m_hDC), m_former(object == NULL ? NULL : ::SelectObject(m_dc, object))
-    {
-    }
-
-    ~CSelected()
-    {
-        if (m_former != NULL)
-            ::SelectObject(m_dc, m_former);
-    }
-
-private:
-    CSelected(const CSelected&);
-    CSelected& operator=(const CSelected&);
-
-    HDC m_dc;
-    HGDIOBJ m_former;
-};
 
 // Guard: text is drawn without a background while it lives.
 class CTransparent
@@ -85,7 +64,7 @@ void DrawFlatButtonFrame(CDC& dc, const CRect& client, FlatButtonFrame frame, CO
     else
     {
         CBrush brush(background);
-        const CSelected selected(dc, brush.GetSafeHandle());
+        const CSelectedObject selected(dc, brush.GetSafeHandle());
         dc.RoundRect(&client, CPoint(kCornerEllipse, kCornerEllipse));
         dc.Draw3dRect(&client, ::GetSysColor(COLOR_3DDKSHADOW), ::GetSysColor(COLOR_3DHILIGHT));
     }
@@ -115,7 +94,7 @@ void DrawFlatButtonIcon(CDC& dc, const CRect& client, HICON icon, bool disabled)
 
 void DrawFlatButtonCaption(CDC& dc, const CRect& client, const CString& caption, HFONT font, bool disabled)
 {
-    const CSelected selected(dc, font);
+    const CSelectedObject selected(dc, font);
     const CTransparent transparent(dc);
     const CRect content = FlatButtonContentRect(client);
     CRect place(content);

@@ -1,6 +1,7 @@
 #include "msg/MyButton.h"
 
 #include "base/ImageSize.h"
+#include "base/SelectedObject.h"
 #include "msg/FlatButtonFace.h"
 
 namespace
@@ -17,14 +18,11 @@ void Compose(CBitmap& target, CSize size, HBITMAP source, CSize sourceSize, COLO
     CDC sourceDC;
     if (!targetDC.CreateCompatibleDC(NULL) || !sourceDC.CreateCompatibleDC(NULL))
         return;
-    const HGDIOBJ formerTarget = ::SelectObject(targetDC.m_hDC, target.GetSafeHandle());
-    const HGDIOBJ formerSource = ::SelectObject(sourceDC.m_hDC, source);
+    const CSelectedObject selectedTarget(targetDC, target.GetSafeHandle());
+    const CSelectedObject selectedSource(sourceDC, source);
     targetDC.FillSolidRect(0, 0, size.cx, size.cy, background);
-    // A bitmap that is selected elsewhere can't be copied.
-    if (formerSource != NULL)
+    if (selectedSource.IsSelected())
         targetDC.BitBlt(0, 0, sourceSize.cx, sourceSize.cy, &sourceDC, 0, 0, SRCCOPY);
-    ::SelectObject(sourceDC.m_hDC, formerSource);
-    ::SelectObject(targetDC.m_hDC, formerTarget);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "tree/AddedIconTreeCtrl.h"
 
+#include "base/SelectedObject.h"
 #include "tree/IconPainter.h"
 
 namespace
@@ -12,26 +13,6 @@ const COLORREF kSelectedText = 0xFFFFFF;
 const int kRoomAfterText = 4;
 const int kTextIndent = 3;
 const UINT kTextFormat = DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
-
-// Guard: a font is selected while it lives. Null leaves the one that is there.
-class CFontSelection
-{
-public:
-    CFontSelection(HDC dc, HGDIOBJ font) : m_dc(dc), m_before(font == NULL ? NULL : ::SelectObject(dc, font)) {}
-
-    ~CFontSelection()
-    {
-        if (m_before != NULL)
-            ::SelectObject(m_dc, m_before);
-    }
-
-private:
-    CFontSelection(const CFontSelection&);
-    CFontSelection& operator=(const CFontSelection&);
-
-    HDC m_dc;
-    HGDIOBJ m_before;
-};
 
 void Fill(CDC& dc, const RECT& rect, COLORREF color)
 {
@@ -140,7 +121,7 @@ BOOL CAddedIconTreeCtrl::OnMouseWheel(UINT, short, CPoint)
 void CAddedIconTreeCtrl::PaintItems(CDC& dc)
 {
     const HWND tree = m_hWnd;
-    const CFontSelection font(dc.m_hDC, reinterpret_cast<HGDIOBJ>(::SendMessage(tree, WM_GETFONT, 0, 0)));
+    const CSelectedObject font(dc, reinterpret_cast<HGDIOBJ>(::SendMessage(tree, WM_GETFONT, 0, 0)));
     CIconPainter icons(dc);
     dc.SetBkMode(TRANSPARENT);
     HTREEITEM item = GetFirstVisibleItem();
@@ -175,9 +156,10 @@ void CAddedIconTreeCtrl::PaintItem(CDC& dc, CIconPainter& icons, HTREEITEM item,
 // Answers the width of all of them.
 int CAddedIconTreeCtrl::PaintIcons(CIconPainter& icons, HTREEITEM item, CPoint place)
 {
-    CTreeItemImages images;
-    if (!m_mapAddedIcons.Lookup(item, images))
+    const AddedIcons::CPair* const found = m_mapAddedIcons.PLookup(item);
+    if (found == NULL)
         return 0;
+    const CTreeItemImages& images = found->value;
     int width = 0;
     for (int entry = 0; entry < images.GetCount(); ++entry)
         width += PaintEntry(icons, images, entry, CPoint(place.x + width, place.y));

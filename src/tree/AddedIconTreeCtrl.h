@@ -58,6 +58,8 @@ private:
     CAddedIconTreeCtrl(const CAddedIconTreeCtrl&);
     CAddedIconTreeCtrl& operator=(const CAddedIconTreeCtrl&);
 
+    typedef CMap<HTREEITEM, HTREEITEM, CTreeItemImages, const CTreeItemImages&> AddedIcons;
+
     void PaintItems(CDC& dc);
     void PaintItem(CDC& dc, CIconPainter& icons, HTREEITEM item, const CString& text);
     int PaintIcons(CIconPainter& icons, HTREEITEM item, CPoint place);
@@ -65,5 +67,5 @@ private:
     void InvalidateAddedIcons();
 
     CImageList* m_pAddedImageList;
-    CMap<HTREEITEM, HTREEITEM, CTreeItemImages, const CTreeItemImages&> m_mapAddedIcons;
+    AddedIcons m_mapAddedIcons;
 };

@@ -1,5 +1,7 @@
 #include "tree/IconPainter.h"
 
+#include "base/ImageSize.h"
+
 namespace
 {
 
@@ -8,17 +10,9 @@ const COLORREF kGround = 0xFFFFFF;
 // 0 by 0 where the handle is no icon.
 CSize SizeOfIcon(HICON icon)
 {
-    ICONINFO info = {};
-    if (icon == NULL || !::GetIconInfo(icon, &info))
-        return CSize(0, 0);
-    BITMAP bitmap = {};
-    // A black and white icon has both of its halves in the mask, one above the other.
-    const bool colored = info.hbmColor != NULL;
-    ::GetObject(colored ? info.hbmColor : info.hbmMask, sizeof(bitmap), &bitmap);
-    if (colored)
-        ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
-    return CSize(bitmap.bmWidth, colored ? bitmap.bmHeight : bitmap.bmHeight / 2);
+    CSize size(0, 0);
+    GetIconSize(icon, size);
+    return size;
 }
 
 CSize SizeOfImage(HIMAGELIST list, int index)
@@ -32,13 +26,15 @@ CSize SizeOfImage(HIMAGELIST list, int index)
 
 } // namespace
 
-CIconPainter::CIconPainter(CDC& dc) : m_dc(dc)
+CIconPainter::CIconPainter(CDC& dc) : m_dc(dc), m_before(NULL), m_selected(NULL)
 {
     m_memory.CreateCompatibleDC(&dc);
 }
 
 CIconPainter::~CIconPainter()
 {
+    if (m_before != NULL)
+        ::SelectObject(m_memory.m_hDC, m_before);
     for (std::map<Key, Picture>::iterator it = m_pictures.begin(); it != m_pictures.end(); ++it)
     {
         if (it->second.bitmap != NULL)
@@ -65,10 +61,20 @@ CIconPainter::Picture CIconPainter::MakePicture(const Key& key)
     picture.bitmap = ::CreateCompatibleBitmap(m_dc.m_hDC, picture.size.cx, picture.size.cy);
     if (picture.bitmap == NULL)
         return picture;
-    const HGDIOBJ before = ::SelectObject(m_memory.m_hDC, picture.bitmap);
+    Select(picture.bitmap);
     DrawInto(key, picture.size);
-    ::SelectObject(m_memory.m_hDC, before);
     return picture;
+}
+
+// A picture stays selected until another one is wanted: neighbours often show the same.
+void CIconPainter::Select(HBITMAP bitmap)
+{
+    if (bitmap == m_selected)
+        return;
+    const HGDIOBJ before = ::SelectObject(m_memory.m_hDC, bitmap);
+    if (m_selected == NULL)
+        m_before = before;
+    m_selected = bitmap;
 }
 
 // The image of a list looks as the icon that ImageList_GetIcon makes of it (ILD_NORMAL), which need not be made for
@@ -94,8 +100,7 @@ int CIconPainter::Paint(const Key& key, CPoint place)
     const Picture& picture = found->second;
     if (picture.bitmap == NULL)
         return 0;
-    const HGDIOBJ before = ::SelectObject(m_memory.m_hDC, picture.bitmap);
+    Select(picture.bitmap);
     ::BitBlt(m_dc.m_hDC, place.x, place.y, picture.size.cx, picture.size.cy, m_memory.m_hDC, 0, 0, SRCCOPY);
-    ::SelectObject(m_memory.m_hDC, before);
     return picture.size.cx;
 }

@@ -35,10 +35,13 @@ private:
     };
 
     Picture MakePicture(const Key& key);
+    void Select(HBITMAP bitmap);
     void DrawInto(const Key& key, CSize size);
     int Paint(const Key& key, CPoint place);
 
     CDC& m_dc;
     CDC m_memory;
+    HGDIOBJ m_before; // what m_memory had before the first picture
+    HBITMAP m_selected;
     std::map<Key, Picture> m_pictures;
 };

@@ -1,5 +1,6 @@
 #include "tree/StateTreeCtrl.h"
 
+#include "base/SelectedObject.h"
 #include "tree/CheckBoxPicture.h"
 #include "tree/CheckRules.h"
 #include "tree/ToggleGuard.h"
@@ -165,9 +166,8 @@ CBitmap* CStateTreeCtrl::CreateCheckBoxBitmap(int nState)
     memory.CreateCompatibleDC(&client);
     CBitmap* const bitmap = new CBitmap;
     bitmap->CreateCompatibleBitmap(&client, kCheckBoxPixels, kCheckBoxPixels);
-    CBitmap* const before = memory.SelectObject(bitmap);
+    const CSelectedObject selected(memory, bitmap->GetSafeHandle());
     DrawCheckBox(memory, nState);
-    memory.SelectObject(before);
     return bitmap;
 }
 

@@ -367,6 +367,27 @@ TEST_F(ComboButtonPicture, TheCaptionIsTheItemsNameNotTheWindowText)
     EXPECT_EQ(0, m_canvas.Count(Inner(4), kBlack));
 }
 
+TEST_F(ComboButtonPicture, WhatIsTooWideEndsAtTheDropZone)
+{
+    const CRect dropZone(kWidth - 17, 0, kWidth, kHeight);
+    const SampleIcon icon(2 * kWidth, 8, kRed);
+    AddItem(L"");
+    AddItem(L"");
+    for (const int style : {CBTS_FLAT + 0, CBTS_FLAT | CBTS_SHOWIMAGE})
+    {
+        m_items[0]->name = L"";
+        m_items[0]->icon = NULL;
+        Draw(style);
+        const int black = m_canvas.Count(dropZone, kBlack, 0);
+        const int background = m_canvas.Count(dropZone, ::GetSysColor(COLOR_BTNFACE), 0);
+        m_items[0]->name = L"MMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMM";
+        m_items[0]->icon = icon;
+        Draw(style);
+        EXPECT_EQ(black, m_canvas.Count(dropZone, kBlack, 0)) << style;
+        EXPECT_EQ(background, m_canvas.Count(dropZone, ::GetSysColor(COLOR_BTNFACE), 0)) << style;
+    }
+}
+
 TEST_F(ComboButtonPicture, AfterARemovalTheFaceShowsTheNewDefault)
 {
     AddItem(L"");
