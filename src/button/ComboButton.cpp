@@ -140,8 +140,9 @@ void CComboButton::DrawItemContent(LPDRAWITEMSTRUCT drawItem)
         return;
 
     const CSavedDC saved(dc);
+    // The background of the drop zone may be there already, and would not cover what is too wide.
     if (HasDropZone(state.itemCount))
-        dc.ExcludeClipRect(DropZone(drawItem->rcItem)); // its background is there already and would not cover a long name
+        dc.ExcludeClipRect(DropZone(drawItem->rcItem));
     const bool disabled = state.disabled || !item->Enabled();
     const CString caption = item->GetName();
     const CSize captionSize = MeasureItemText(dc, caption);

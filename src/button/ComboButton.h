@@ -2,8 +2,8 @@
 // the face, and a click runs it. With two items or more the right 17 pixels are a drop zone with an arrow: a press
 // there opens a menu of all items, and the entry chosen becomes the default item and runs.
 //
-//     CComboButton m_new;                            // DDX_Control, in place of a plain button
-//     m_new.AddItem(&m_newFile);                     // CComboButtonItem objects of the dialog; the first is the default
+//     CComboButton m_new;                // DDX_Control, in place of a plain button
+//     m_new.AddItem(&m_newFile);         // CComboButtonItem objects of the dialog; the first is the default
 //     m_new.AddItem(&m_newFromTemplate);
 //     m_new.SetComboButtonStyle(CBTS_SHOWIMAGE | CBTS_IMAGEANDTEXT | CBTS_GRADIENT);
 //

@@ -111,6 +111,10 @@ void CMyButton::DrawItem(LPDRAWITEMSTRUCT drawItem)
 
 void CMyButton::PreSubclassWindow()
 {
+    // A former window may have gone with the mouse over it.
+    m_hovering = false;
+    m_focused = false;
+    m_hoverState = IDLE;
     CWnd* const parent = GetParent();
     m_font = parent == NULL ? NULL : reinterpret_cast<HFONT>(parent->SendMessage(WM_GETFONT));
     m_style = (GetStyle() & kImageStyles) | kOwnStyle;

@@ -2,6 +2,44 @@
 
 #include "base/ImageSize.h"
 
+// A picture in a context of its own: to select one picture after the other would take longer than to copy them.
+class CIconPicture
+{
+public:
+    CIconPicture(CDC& like, CSize size) : m_size(size), m_before(NULL)
+    {
+        m_dc.CreateCompatibleDC(&like);
+        m_bitmap.CreateCompatibleBitmap(&like, size.cx, size.cy);
+        m_before = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
+    }
+
+    ~CIconPicture()
+    {
+        if (m_before != NULL)
+            ::SelectObject(m_dc.GetSafeHdc(), m_before);
+    }
+
+    CDC& GetDC() { return m_dc; }
+
+    // Answers the width that was drawn over.
+    int CopyTo(CDC& dc, CPoint place)
+    {
+        if (m_before == NULL)
+            return 0;
+        dc.BitBlt(place.x, place.y, m_size.cx, m_size.cy, &m_dc, 0, 0, SRCCOPY);
+        return m_size.cx;
+    }
+
+private:
+    CIconPicture(const CIconPicture&);
+    CIconPicture& operator=(const CIconPicture&);
+
+    CSize m_size;
+    CDC m_dc;
+    CBitmap m_bitmap;
+    HGDIOBJ m_before; // what m_dc had before the bitmap; null when one of them could not be made
+};
+
 namespace
 {
 
@@ -24,22 +62,28 @@ CSize SizeOfImage(HIMAGELIST list, int index)
     return CSize(width, height);
 }
 
+// The image of a list looks as the icon that ImageList_GetIcon makes of it (ILD_NORMAL), which need not be made for
+// that.
+void DrawInto(CDC& dc, CSize size, HIMAGELIST list, ULONG_PTR image)
+{
+    CBrush ground(kGround);
+    const CRect area(CPoint(0, 0), size);
+    dc.FillRect(&area, &ground);
+    if (list == NULL)
+        dc.DrawState(CPoint(0, 0), size, reinterpret_cast<HICON>(image), DST_ICON, static_cast<HBRUSH>(NULL));
+    else
+        ::ImageList_DrawEx(list, static_cast<int>(image), dc.GetSafeHdc(), 0, 0, 0, 0, CLR_NONE, CLR_NONE,
+                           ILD_TRANSPARENT);
+}
+
 } // namespace
 
-CIconPainter::CIconPainter(CDC& dc) : m_dc(dc), m_before(NULL), m_selected(NULL)
-{
-    m_memory.CreateCompatibleDC(&dc);
-}
+CIconPainter::CIconPainter(CDC& dc) : m_dc(dc) {}
 
 CIconPainter::~CIconPainter()
 {
-    if (m_before != NULL)
-        ::SelectObject(m_memory.m_hDC, m_before);
-    for (std::map<Key, Picture>::iterator it = m_pictures.begin(); it != m_pictures.end(); ++it)
-    {
-        if (it->second.bitmap != NULL)
-            ::DeleteObject(it->second.bitmap);
-    }
+    for (Pictures::iterator it = m_pictures.begin(); it != m_pictures.end(); ++it)
+        delete it->second;
 }
 
 int CIconPainter::PaintIcon(HICON icon, CPoint place)
@@ -52,55 +96,21 @@ int CIconPainter::PaintImage(HIMAGELIST list, int index, CPoint place)
     return list == NULL ? 0 : Paint(Key(list, static_cast<ULONG_PTR>(index)), place);
 }
 
-CIconPainter::Picture CIconPainter::MakePicture(const Key& key)
+CIconPicture* CIconPainter::MakePicture(const Key& key) const
 {
-    Picture picture = {NULL, key.first == NULL ? SizeOfIcon(reinterpret_cast<HICON>(key.second))
-                                               : SizeOfImage(key.first, static_cast<int>(key.second))};
-    if (picture.size.cx <= 0 || picture.size.cy <= 0)
-        return picture;
-    picture.bitmap = ::CreateCompatibleBitmap(m_dc.m_hDC, picture.size.cx, picture.size.cy);
-    if (picture.bitmap == NULL)
-        return picture;
-    Select(picture.bitmap);
-    DrawInto(key, picture.size);
+    const CSize size = key.first == NULL ? SizeOfIcon(reinterpret_cast<HICON>(key.second))
+                                         : SizeOfImage(key.first, static_cast<int>(key.second));
+    if (size.cx <= 0 || size.cy <= 0)
+        return NULL;
+    CIconPicture* const picture = new CIconPicture(m_dc, size);
+    DrawInto(picture->GetDC(), size, key.first, key.second);
     return picture;
-}
-
-// A picture stays selected until another one is wanted: neighbours often show the same.
-void CIconPainter::Select(HBITMAP bitmap)
-{
-    if (bitmap == m_selected)
-        return;
-    const HGDIOBJ before = ::SelectObject(m_memory.m_hDC, bitmap);
-    if (m_selected == NULL)
-        m_before = before;
-    m_selected = bitmap;
-}
-
-// The image of a list looks as the icon that ImageList_GetIcon makes of it (ILD_NORMAL), which need not be made for
-// that.
-void CIconPainter::DrawInto(const Key& key, CSize size)
-{
-    CBrush ground(kGround);
-    const CRect area(CPoint(0, 0), size);
-    m_memory.FillRect(&area, &ground);
-    if (key.first == NULL)
-        m_memory.DrawState(CPoint(0, 0), size, reinterpret_cast<HICON>(key.second), DST_ICON,
-                           static_cast<HBRUSH>(NULL));
-    else
-        ::ImageList_DrawEx(key.first, static_cast<int>(key.second), m_memory.m_hDC, 0, 0, 0, 0, CLR_NONE, CLR_NONE,
-                           ILD_TRANSPARENT);
 }
 
 int CIconPainter::Paint(const Key& key, CPoint place)
 {
-    std::map<Key, Picture>::iterator found = m_pictures.find(key);
+    Pictures::iterator found = m_pictures.find(key);
     if (found == m_pictures.end())
         found = m_pictures.insert(std::make_pair(key, MakePicture(key))).first;
-    const Picture& picture = found->second;
-    if (picture.bitmap == NULL)
-        return 0;
-    Select(picture.bitmap);
-    ::BitBlt(m_dc.m_hDC, place.x, place.y, picture.size.cx, picture.size.cy, m_memory.m_hDC, 0, 0, SRCCOPY);
-    return picture.size.cx;
+    return found->second == NULL ? 0 : found->second->CopyTo(m_dc, place);
 }

@@ -11,6 +11,8 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
+class CIconPicture;
+
 class CIconPainter
 {
 public:
@@ -27,21 +29,11 @@ private:
 
     // The list, null for a handle, and the index or the handle.
     typedef std::pair<HIMAGELIST, ULONG_PTR> Key;
+    typedef std::map<Key, CIconPicture*> Pictures; // owned; null where there is nothing to draw
 
-    struct Picture
-    {
-        HBITMAP bitmap; // null where there is nothing to draw
-        CSize size;
-    };
-
-    Picture MakePicture(const Key& key);
-    void Select(HBITMAP bitmap);
-    void DrawInto(const Key& key, CSize size);
+    CIconPicture* MakePicture(const Key& key) const;
     int Paint(const Key& key, CPoint place);
 
     CDC& m_dc;
-    CDC m_memory;
-    HGDIOBJ m_before; // what m_memory had before the first picture
-    HBITMAP m_selected;
-    std::map<Key, Picture> m_pictures;
+    Pictures m_pictures;
 };

@@ -95,6 +95,8 @@ void CStateTreeCtrl::PreSubclassWindow()
 {
     if ((GetStyle() & TVS_CHECKBOXES) == 0)
         ModifyStyle(0, TVS_CHECKBOXES);
+    // Each window has a native list that ours replaces, also the second one of the same object.
+    m_bImageListCreated = 0;
     // What items of a filled tree were told is not known.
     m_nativeCountsChildren = GetCount() == 0;
     CTreeCtrl::PreSubclassWindow();
@@ -213,13 +215,19 @@ void CStateTreeCtrl::CreateImageList()
     if (m_bImageListCreated)
         return;
     m_bImageListCreated = 1;
+    if (m_imageList.GetSafeHandle() == NULL)
+        DrawImages();
+    CImageList* const native = SetImageList(&m_imageList, TVSIL_STATE);
+    if (native != NULL)
+        native->DeleteImageList();
+}
+
+void CStateTreeCtrl::DrawImages()
+{
     m_imageList.Create(kCheckBoxPixels, kCheckBoxPixels, ILC_COLOR24 | ILC_MASK, IMAGES, 0);
     for (int value = STATE_NONE; value <= STATE_DISABLED; ++value)
         AddImage(value, value);
     AddImage(STATE_FIXED, STATE_UNCHECKED);
-    CImageList* const native = SetImageList(&m_imageList, TVSIL_STATE);
-    if (native != NULL)
-        native->DeleteImageList();
 }
 
 void CStateTreeCtrl::AddImage(int index, int value)

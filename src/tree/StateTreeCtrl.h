@@ -72,6 +72,7 @@ private:
     };
 
     void CreateImageList();
+    void DrawImages();
     void AddImage(int index, int value);
     void ReassertImageList(int fewest);
 

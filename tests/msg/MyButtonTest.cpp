@@ -74,6 +74,22 @@ TEST_F(MyButton, TheMouseThatLeavesEndsTheHover)
     EXPECT_FALSE(m_button.IsHovering());
 }
 
+TEST_F(MyButton, AWindowThatComesBackIsAtRestAndKeepsItsCheck)
+{
+    Create(0);
+    m_button.SetCheck(1);
+    m_button.SendMessage(WM_SETFOCUS);
+    MoveTo(5, 5);
+    ASSERT_TRUE(m_button.IsHovering());
+    m_button.DestroyWindow();
+    Create(0);
+    EXPECT_FALSE(m_button.IsHovering());
+    EXPECT_FALSE(m_button.IsFocused());
+    EXPECT_EQ(1, m_button.GetCheck());
+    MoveTo(5, 5);
+    EXPECT_EQ(m_button.m_hWnd, ::GetCapture());
+}
+
 TEST_F(MyButton, TheFocusIsNoted)
 {
     Create(0);

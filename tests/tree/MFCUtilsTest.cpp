@@ -166,6 +166,22 @@ TEST_F(TreeTools, ANullTextFindsNothing)
     EXPECT_EQ(nullptr, ByText(NULL, NULL));
 }
 
+TEST_F(TreeTools, AChainOfTenThousandItemsIsSearchedFollowedAndDeleted)
+{
+    const int depth = 10000;
+    m_tree.SetRedraw(FALSE);
+    HTREEITEM last = m_delta;
+    for (int i = 0; i < depth; ++i)
+        last = Add(L"x", 100 + i, last);
+    m_tree.SetItemText(last, L"bottom");
+    EXPECT_EQ(last, FindTreeItem(&m_tree, DWORD_PTR(100 + depth - 1), NULL));
+    EXPECT_EQ(last, FindTreeItem(&m_tree, L"Bottom", NULL));
+    std::vector<int> path(depth, 0);
+    path[0] = 1; // the first child was there before
+    EXPECT_EQ(last, FindTreeItem(&m_tree, path, m_delta));
+    EXPECT_EQ(2, DeleteTreeChildItems(&m_tree, m_delta));
+}
+
 TEST_F(TreeTools, FollowsPathsOfPlaces)
 {
     struct Row

@@ -333,6 +333,19 @@ TEST_F(StateTree, ItsOwnImagesAreThereAfterTheFirstNotification)
     EXPECT_EQ(6, ImageCount());
 }
 
+// A dialog that is shown a second time subclasses another window with the same object.
+TEST_F(StateTree, TheSecondWindowOfTheSameObjectHasTheImagesToo)
+{
+    Add(NULL, 1);
+    Repaint();
+    m_tree.DestroyWindow();
+    m_tree.Create(kStyle, Place(), &m_owner, kTreeId);
+    Add(NULL, STATE_PARTIAL);
+    Repaint();
+    EXPECT_EQ(6, ImageCount());
+    m_tree.DestroyWindow();
+}
+
 TEST_F(StateTree, SettingBringsTheImagesBackBelowSix)
 {
     const HTREEITEM root = Add(NULL, 1);
@@ -405,16 +418,20 @@ TEST_F(StateTree, AnOwnerThatAnswersWhetherThereAreChildrenIsNotAsked)
     EXPECT_EQ(STATE_CHECKED, Value(below));
 }
 
-TEST_F(StateTree, AChainOfFiveThousandItemsIsCheckedFromTopToBottom)
+TEST_F(StateTree, AChainOfTenThousandItemsIsSetFromTopToBottom)
 {
     m_tree.SetRedraw(FALSE);
     const HTREEITEM root = Add(NULL, 1);
     HTREEITEM last = root;
-    for (int i = 0; i < 5000; ++i)
+    for (int i = 0; i < 10000; ++i)
         last = m_tree.InsertItem(L"x", last);
     m_tree.SetCheck(root, 1);
     EXPECT_EQ(STATE_CHECKED, Value(last));
     m_tree.SetCheck(last, 0);
     EXPECT_EQ(STATE_UNCHECKED, Value(root));
+    m_tree.EnableCheck(root, 0);
+    EXPECT_EQ(STATE_DISABLED, Value(last));
+    m_tree.EnableChangeOtherItemState(root, 0);
+    EXPECT_EQ(STATE_FIXED, Value(last));
     m_tree.SetRedraw(TRUE);
 }
