@@ -3,7 +3,7 @@
 #include <rxregsvc.h>
 #include <ZnQFCBaseU.h>
 
-#include "dialog/CheckMsgThreads.h"
+#include "base/ModuleThreads.h"
 #include "msg/MsgViewWnd.h"
 #include "msg/ZNMsgManager.h"
 #include "tip/FollowMouseTipWnd.h"
@@ -34,7 +34,7 @@ AcRx::AppRetCode CZNKTControlsApp::On_kUnloadAppMsg(void* pkt)
     // Its window and its mouse hook must not outlive the code that they call.
     CFollowMouseTipWnd::Destroy();
     // A client ends its check window without waiting for the thread, mostly when it is unloaded itself.
-    EndCheckMsgThreads();
+    EndModuleThreads();
     // The palette's viewer reads the store, and both call into the companion: this order.
     CMsgViewWnd::DestroyInstance();
     CZNMsgManager::DestroyInstance();

@@ -3,9 +3,9 @@
 #include <rxmfcapi.h>
 
 #include "base/ModuleResources.h"
+#include "base/ModuleThreads.h"
 #include "dialog/CheckMsgBlock.h"
 #include "dialog/CheckMsgPosts.h"
-#include "dialog/CheckMsgThreads.h"
 #include "dialog/CheckSpecificationMsgDlg.h"
 #include "res/resource.h"
 
@@ -76,7 +76,7 @@ bool CCheckSpecMsgThread::IsDlgShowed() const
 
 BOOL CCheckSpecMsgThread::InitInstance()
 {
-    AddCheckMsgThread();
+    AddModuleThread();
     m_hook = ::SetWindowsHookEx(WH_GETMESSAGE, &CCheckSpecMsgThread::OnGetMessage, NULL, ::GetCurrentThreadId());
     const CModuleResources resources;
     m_pDlg = new CCheckSpecificationMsgDlg;

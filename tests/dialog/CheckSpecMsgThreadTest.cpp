@@ -1,8 +1,8 @@
 ﻿// The check window's thread and its clients: two real threads, real posted messages.
 #include "CheckMsgFixture.h"
 
+#include "base/ModuleThreads.h"
 #include "dialog/CheckMsgBlock.h"
-#include "dialog/CheckMsgThreads.h"
 
 namespace
 {
@@ -376,9 +376,9 @@ TEST_F(CheckSpecMsgThread, TheModulesEndEndsAThreadThatTheClientForgot)
     StartThread();
     ShowMsg({L"a"});
     ASSERT_TRUE(WaitUntilShown(true));
-    EndCheckMsgThreads();
+    EndModuleThreads();
     EXPECT_TRUE(m_thread->HasEnded());
-    EndCheckMsgThreads(); // there is none left
+    EndModuleThreads(); // there is none left
 }
 
 TEST_F(CheckSpecMsgThread, TheModulesEndWaitsForAThreadThatTheClientEnded)
@@ -388,7 +388,7 @@ TEST_F(CheckSpecMsgThread, TheModulesEndWaitsForAThreadThatTheClientEnded)
     for (int i = 0; i < queued; ++i)
         ShowMsg({L"a"});
     m_thread->End();
-    EndCheckMsgThreads();
+    EndModuleThreads();
     EXPECT_TRUE(m_thread->HasEnded());
 }
 

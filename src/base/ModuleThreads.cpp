@@ -1,4 +1,4 @@
-#include "dialog/CheckMsgThreads.h"
+#include "base/ModuleThreads.h"
 
 #include <afxwin.h>
 #include <afxtempl.h>
@@ -73,12 +73,12 @@ void CThreadList::RemoveEnded()
 
 } // namespace
 
-void AddCheckMsgThread()
+void AddModuleThread()
 {
     g_threads.AddCurrent();
 }
 
-void EndCheckMsgThreads()
+void EndModuleThreads()
 {
     for (HANDLE thread = g_threads.TakeLast(); thread != NULL; thread = g_threads.TakeLast())
     {
