@@ -32,6 +32,16 @@ BOOL CALLBACK SearchPopup(HWND window, LPARAM parameter)
     return search.found == nullptr;
 }
 
+// The dialog that takes the input while its owner is disabled.
+BOOL CALLBACK TakeModal(HWND window, LPARAM parameter)
+{
+    DialogSearch& search = *reinterpret_cast<DialogSearch*>(parameter);
+    const bool takesInput = IsWindowVisible(window) && IsWindowEnabled(window);
+    if (takesInput && IsPopupOf(window, search.frame) && !IsWindowEnabled(GetWindow(window, GW_OWNER)))
+        search.found = window;
+    return search.found == nullptr;
+}
+
 } // namespace
 
 bool IsPopupOf(HWND window, HWND frame)
@@ -43,6 +53,13 @@ HWND FindDialog(HWND frame, const std::wstring& title)
 {
     DialogSearch search{frame, title, nullptr};
     EnumWindows(&SearchPopup, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND FindModalDialog(HWND frame)
+{
+    DialogSearch search{frame, std::wstring(), nullptr};
+    EnumWindows(&TakeModal, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 

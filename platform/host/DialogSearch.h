@@ -14,4 +14,7 @@ bool IsPopupOf(HWND window, HWND frame);
 // The visible dialog with this title among the frame's popups and inside of its dialogs; null when there is none.
 HWND FindDialog(HWND frame, const std::wstring& title);
 
+// The popup of the frame that is modal now; null when there is none.
+HWND FindModalDialog(HWND frame);
+
 } // namespace arxhost

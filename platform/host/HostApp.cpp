@@ -1,5 +1,6 @@
 ﻿#include "host/HostApp.h"
 
+#include "host/DialogSearch.h"
 #include "host/HostCommands.h"
 #include "host/MainFrame.h"
 #include "host/StandardOutput.h"
@@ -23,6 +24,23 @@ const unsigned scriptPause = 20;
 // without any, a script goes on inside of it.
 const UINT modalTick = 50;
 const int ticksOfModalLoop = 3;
+// A dialog that a line opens comes up in its own time: the next line that names one waits this long, milliseconds.
+const unsigned dialogPatience = 5000;
+
+bool NamesMissingDialog(const MainFrame& frame, const std::wstring& line)
+{
+    Words words;
+    return SplitWords(line, words) && words.size() > 2 && HasName(L"SHOT,画面,PRESS,按下", words[0]) &&
+           FindDialog(frame.m_hWnd, words[2]) == nullptr;
+}
+
+// Nobody is there to end a modal dialog that the script left open.
+void CancelModalDialog(const MainFrame& frame)
+{
+    const HWND dialog = FindModalDialog(frame.m_hWnd);
+    if (dialog != nullptr)
+        PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+}
 
 std::vector<std::wstring> ProgramArguments()
 {
@@ -107,7 +125,7 @@ void HostApp::RunScripts()
     if (const unsigned waiting = scripts.Waiting())
         MsgWaitForMultipleObjects(0, nullptr, FALSE, std::min(waiting, scriptPause), QS_ALLINPUT);
     else if (!scripts.IsEmpty())
-        m_frame->StepScript();
+        StepScript();
     else
     {
         m_closing = true;
@@ -121,9 +139,28 @@ void CALLBACK HostApp::StepInModalLoop(HWND /*window*/, UINT /*message*/, UINT_P
     HostApp& app = *static_cast<HostApp*>(AfxGetApp());
     if (app.m_closing || ++app.m_ticksWithoutIdle < ticksOfModalLoop)
         return;
-    ScriptRunner& scripts = app.m_frame->Scripts();
+    const ScriptRunner& scripts = app.m_frame->Scripts();
     if (!scripts.IsEmpty() && scripts.Waiting() == 0)
-        app.m_frame->StepScript();
+        app.StepScript();
+    else if (scripts.IsEmpty() && app.m_frame->IsUnattended())
+        CancelModalDialog(*app.m_frame);
+}
+
+void HostApp::StepScript()
+{
+    ScriptRunner& scripts = m_frame->Scripts();
+    if (NamesMissingDialog(*m_frame, scripts.Next()))
+    {
+        const ULONGLONG now = GetTickCount64();
+        m_patienceEnds = m_patienceEnds == 0 ? now + dialogPatience : m_patienceEnds;
+        if (now < m_patienceEnds)
+        {
+            scripts.Delay(scriptPause);
+            return;
+        }
+    }
+    m_patienceEnds = 0;
+    m_frame->StepScript();
 }
 
 } // namespace arxhost

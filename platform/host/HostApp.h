@@ -25,10 +25,13 @@ private:
     bool Start(const HostArguments& arguments);
     void Attempt(const std::function<void()>& step);
     void RunScripts();
+    // Runs the next line, or waits for the dialog that it names.
+    void StepScript();
     static void CALLBACK StepInModalLoop(HWND window, UINT message, UINT_PTR timer, DWORD time);
 
     MainFrame* m_frame = nullptr; // deletes itself with its window
     int m_exitCode = 0;
+    unsigned long long m_patienceEnds = 0; // GetTickCount64; 0: nothing is waited for
     bool m_closing = false;
     int m_ticksWithoutIdle = 0;
 };

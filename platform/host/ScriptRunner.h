@@ -21,6 +21,8 @@ public:
     void Clear();
 
     bool IsEmpty() const { return m_lines.empty(); }
+    // The line that runs next; there must be one.
+    const std::wstring& Next() const { return m_lines.front().line.text; }
     // No line is run for this time from now, milliseconds.
     void Delay(unsigned milliseconds);
     // Milliseconds until the next line may run.

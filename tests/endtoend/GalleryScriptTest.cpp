@@ -35,6 +35,12 @@ TEST(GalleryScript, ButtonOfADialogThatIsNotOpenIsAnError)
     EXPECT_EQ(1u, RunScript("GALLERYPAGE input-dialog\nPRESS 9999 控件库\n"));
 }
 
+TEST(GalleryScript, ModalDialogThatTheScriptLeftOpenIsCancelled)
+{
+    EXPECT_EQ(0u, RunScript("GALLERYPAGE input-dialog\nPRESS 1101 控件库\nGALLERY\n"));
+    EXPECT_EQ(1u, RunScript("GALLERYPAGE input-dialog\nPRESS 1101 控件库\nGALLERY\nNOSUCHCOMMAND\n"));
+}
+
 TEST(GalleryScript, ModuleIsUnloadedUnderItsWindow)
 {
     EXPECT_EQ(0u, RunScript("GALLERY\nARX U gallery.arx\nZOOM E\n"));
