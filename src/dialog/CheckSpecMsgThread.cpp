@@ -143,7 +143,8 @@ void CCheckSpecMsgThread::TakeInModalLoop(MSG& message)
         return;
     if (isEnd)
     {
-        // The loop ends by it and swallows it: this thread's own loop must be told again.
+        // The loop swallows it, and that of a menu need not even end by it: this thread's own loop must be told again.
+        ::EndMenu();
         m_pPosts->KeepEnd();
         ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
         return;

@@ -9,6 +9,29 @@ namespace
 
 const wchar_t kNoAttributes[] = L"\r\n\r\n\r\n无属性显示";
 
+// A window's thread with a menu to open, as the edit menu of its text would be.
+class MenuThread : public HeldThread
+{
+public:
+    static constexpr UINT kOpenMenu = WM_APP + 2; // wParam: the owner
+
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        if (message->hwnd == NULL && message->message == kOpenMenu)
+            OpenMenu(reinterpret_cast<HWND>(message->wParam));
+        return HeldThread::PreTranslateMessage(message);
+    }
+
+private:
+    static void OpenMenu(HWND owner)
+    {
+        CMenu menu;
+        menu.CreatePopupMenu();
+        menu.AppendMenu(MF_STRING, 1, L"Copy");
+        ::TrackPopupMenu(menu.m_hMenu, TPM_RETURNCMD, 0, 0, 0, owner, NULL);
+    }
+};
+
 class CheckSpecMsgThread : public CheckMsgFixture
 {
 protected:
@@ -19,11 +42,21 @@ protected:
     }
 
     // Whether the thread works at one of the system's own loops.
-    bool IsInMoveLoop() const
+    bool IsInLoop(DWORD loop) const
     {
         GUITHREADINFO info = {};
         info.cbSize = sizeof(info);
-        return ::GetGUIThreadInfo(m_thread->m_nThreadID, &info) && (info.flags & GUI_INMOVESIZE) != 0;
+        return ::GetGUIThreadInfo(m_thread->m_nThreadID, &info) && (info.flags & loop) != 0;
+    }
+    bool IsInMoveLoop() const { return IsInLoop(GUI_INMOVESIZE); }
+
+    bool OpenMenu()
+    {
+        m_thread->ShowWindow(SW_SHOW);
+        if (!WaitUntilShown(true))
+            return false;
+        m_thread->PostThreadMessage(MenuThread::kOpenMenu, reinterpret_cast<WPARAM>(Dialog()), 0);
+        return WaitFor([this] { return IsInLoop(GUI_INMENUMODE); });
     }
 
     // As the user does who chooses "move" with the keyboard.
@@ -359,6 +392,30 @@ TEST_F(CheckSpecMsgThread, TheEndComesWhileTheUserMovesTheWindow)
     EXPECT_TRUE(WaitFor([this] { return m_thread->HasEnded(); }));
 }
 
+TEST_F(CheckSpecMsgThread, TextsAreShownWhileAMenuOfTheWindowIsOpen)
+{
+    StartThread(new MenuThread);
+    ASSERT_TRUE(OpenMenu());
+    ShowMsg({L"under the menu"});
+    EXPECT_TRUE(ShowsText(L"under the menu\r\n"));
+    m_thread->ShowWindow(SW_HIDE);
+    EXPECT_TRUE(WaitUntilShown(false));
+    EXPECT_TRUE(IsInLoop(GUI_INMENUMODE));
+    EXPECT_TRUE(BlocksAreGone());
+    ::PostMessageW(Dialog(), WM_CANCELMODE, 0, 0);
+    EXPECT_TRUE(WaitFor([this] { return !IsInLoop(GUI_INMENUMODE); }));
+    ShowMsg({L"after it"});
+    EXPECT_TRUE(ShowsText(L"after it\r\n"));
+}
+
+TEST_F(CheckSpecMsgThread, TheEndComesWhileAMenuOfTheWindowIsOpen)
+{
+    StartThread(new MenuThread);
+    ASSERT_TRUE(OpenMenu());
+    m_thread->End();
+    EXPECT_TRUE(WaitFor([this] { return m_thread->HasEnded(); }));
+}
+
 // The main thread only posts: it is not waited for before it dispatches again.
 TEST_F(CheckSpecMsgThread, TheEndComesThroughAfterTheMainThreadWasBusy)
 {
@@ -384,7 +441,7 @@ TEST_F(CheckSpecMsgThread, TheModulesEndEndsAThreadThatTheClientForgot)
 TEST_F(CheckSpecMsgThread, TheModulesEndWaitsForAThreadThatTheClientEnded)
 {
     StartThread();
-    const int queued = 2000; // keep it at work
+    const int queued = 200; // keep it at work
     for (int i = 0; i < queued; ++i)
         ShowMsg({L"a"});
     m_thread->End();

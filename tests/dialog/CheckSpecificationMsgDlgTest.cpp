@@ -1,6 +1,8 @@
 ﻿// The check window itself, on the thread of the test.
 #include "CheckMsgFixture.h"
 
+#include <algorithm>
+
 #include "dialog/CheckSpecificationMsgDlg.h"
 #include "res/resource.h"
 
@@ -9,6 +11,21 @@ namespace
 
 constexpr COLORREF kPaleGreen = RGB(233, 255, 221);
 constexpr UINT kKeepFocus = 0x7101;
+
+constexpr UINT_PTR kEarlierTimer = 98;
+constexpr UINT_PTR kLaterTimer = 99;
+
+// The timers of the thread's windows in the order in which they come first, which is that in which they are due.
+std::vector<UINT_PTR> g_timers;
+
+LRESULT CALLBACK NoteTimers(int code, WPARAM wParam, LPARAM lParam)
+{
+    const MSG& message = *reinterpret_cast<MSG*>(lParam);
+    if (code == HC_ACTION && wParam == PM_REMOVE && message.message == WM_TIMER &&
+        std::find(g_timers.begin(), g_timers.end(), message.wParam) == g_timers.end())
+        g_timers.push_back(message.wParam);
+    return ::CallNextHookEx(NULL, code, wParam, lParam);
+}
 
 class CheckSpecificationMsgDlg : public HostFixture
 {
@@ -60,6 +77,19 @@ protected:
     void Click(int id)
     {
         m_dlg.SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), LPARAM(m_dlg.GetDlgItem(id)->m_hWnd));
+    }
+    // Those that come after the action, among them one that is due earlier than `delay` and one that is due later.
+    template<class ACTION>
+    std::vector<UINT_PTR> TimersAround(UINT delay, ACTION action)
+    {
+        g_timers.clear();
+        const HHOOK hook = ::SetWindowsHookExW(WH_GETMESSAGE, &NoteTimers, NULL, ::GetCurrentThreadId());
+        m_dlg.SetTimer(kEarlierTimer, delay - delay / 5, NULL);
+        action();
+        m_dlg.SetTimer(kLaterTimer, delay + delay / 5, NULL);
+        EXPECT_TRUE(WaitFor([] { return !g_timers.empty() && g_timers.back() == kLaterTimer; }));
+        ::UnhookWindowsHookEx(hook);
+        return g_timers;
     }
     void Timer(UINT id) { m_dlg.SendMessage(WM_TIMER, id); }
     bool IsMouseOver() { return m_dlg.SendMessage(kKeepFocus) == 1; }
@@ -174,6 +204,18 @@ TEST_F(CheckSpecificationMsgDlg, ComesUpBesideTheRestingCursor)
     EXPECT_TRUE(WaitFor([this] { return m_dlg.IsWindowVisible() != FALSE; }));
     EXPECT_EQ(FALSE, m_dlg.KillTimer(1));
     EXPECT_EQ(TRUE, m_dlg.KillTimer(2));
+}
+
+TEST_F(CheckSpecificationMsgDlg, ComesUpAfterFiftyMilliseconds)
+{
+    EXPECT_EQ((std::vector<UINT_PTR>{kEarlierTimer, 1, kLaterTimer}),
+              TimersAround(50, [this] { SetMessages({L"a"}); }));
+}
+
+TEST_F(CheckSpecificationMsgDlg, LooksAfterTwoHundredMillisecondsWhetherToHide)
+{
+    SetMessages({L"a"});
+    EXPECT_EQ((std::vector<UINT_PTR>{kEarlierTimer, 2, kLaterTimer}), TimersAround(200, [this] { Timer(1); }));
 }
 
 TEST_F(CheckSpecificationMsgDlg, AVisibleWindowStaysWhereItIs)
