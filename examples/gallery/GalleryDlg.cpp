@@ -2,7 +2,6 @@
 
 #include "GalleryFilter.h"
 #include "GalleryIds.h"
-#include "GalleryLayout.h"
 
 #include <AcExtensionModule.h>
 #include <aced.h>
@@ -12,17 +11,16 @@
 namespace
 {
 
-struct Anchor
+// Around which F6 goes.
+enum Pane
 {
-    int control;
-    int anchor;
+    PANE_TREE,
+    PANE_PAGE,
+    PANE_CODE,
+    PANES
 };
 
-const Anchor kAnchors[] = {
-    {IDC_GALLERY_TREE, GALLERY_GROW_HEIGHT},       {IDC_GALLERY_TITLE, GALLERY_GROW_WIDTH},
-    {IDC_GALLERY_DESCRIPTION, GALLERY_GROW_WIDTH}, {IDC_GALLERY_PAGE_AREA, GALLERY_GROW_WIDTH | GALLERY_GROW_HEIGHT},
-    {IDC_GALLERY_CODE_LABEL, GALLERY_MOVE_DOWN},   {IDC_GALLERY_CODE, GALLERY_GROW_WIDTH | GALLERY_MOVE_DOWN},
-};
+const wchar_t kPlaceName[] = L"Gallery";
 
 // Tenths of a point.
 const int kTitleSize = 120;
@@ -39,6 +37,8 @@ CString WithReturns(CString text)
 CGalleryDlg* CGalleryDlg::s_current = nullptr;
 
 BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
     ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
     ON_EN_CHANGE(IDC_GALLERY_SEARCH, &CGalleryDlg::OnSearchChange)
@@ -81,11 +81,8 @@ void CGalleryDlg::ShowPage(const GalleryEntry& entry)
 
 BOOL CGalleryDlg::PreTranslateMessage(MSG* message)
 {
-    if (message->message == WM_KEYDOWN && message->wParam == L'F' && ::GetKeyState(VK_CONTROL) < 0)
-    {
-        GoToSearch();
+    if (message->message == WM_KEYDOWN && TakeKey(static_cast<UINT>(message->wParam)))
         return TRUE;
-    }
     return CDialog::PreTranslateMessage(message);
 }
 
@@ -94,9 +91,11 @@ BOOL CGalleryDlg::OnInitDialog()
     CDialog::OnInitDialog();
     m_tree.SubclassDlgItem(IDC_GALLERY_TREE, this);
     m_search.SubclassDlgItem(IDC_GALLERY_SEARCH, this);
-    RememberPlaces();
+    m_code.SubclassDlgItem(IDC_GALLERY_CODE, this);
+    SetUpLayout();
     MakeFonts();
     FillTree();
+    CCtrlResize::RestoreWinPos(kPlaceName, m_hWnd, TRUE);
     return TRUE;
 }
 
@@ -104,12 +103,15 @@ BOOL CGalleryDlg::OnInitDialog()
 void CGalleryDlg::OnOK()
 {
     if (GetFocus() == &m_search)
-        m_tree.SetFocus();
+        GoToFound();
 }
 
 void CGalleryDlg::OnCancel()
 {
-    DestroyWindow();
+    if (m_search.GetWindowTextLength() > 0)
+        m_search.SetWindowText(L"");
+    else
+        DestroyWindow();
 }
 
 // The dialog that gets the keys hears of Enter on any button, one of the page included.
@@ -128,14 +130,25 @@ void CGalleryDlg::PostNcDestroy()
     delete this;
 }
 
+// The button in the caption closes whatever is searched.
+void CGalleryDlg::OnClose()
+{
+    DestroyWindow();
+}
+
+void CGalleryDlg::OnDestroy()
+{
+    if (!IsIconic() && !IsZoomed())
+        CCtrlResize::SaveWinPos(kPlaceName, m_hWnd, TRUE);
+    CDialog::OnDestroy();
+}
+
 void CGalleryDlg::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
-    if (type == SIZE_MINIMIZED || m_places.empty())
+    if (type == SIZE_MINIMIZED)
         return;
-    const CSize growth(cx - m_smallestClient.cx, cy - m_smallestClient.cy);
-    for (const Anchor& anchor : kAnchors)
-        GetDlgItem(anchor.control)->MoveWindow(AnchoredRect(m_places[anchor.control], anchor.anchor, growth));
+    m_resize.ResizeAllCtrl(cx, cy);
     PlacePage();
 }
 
@@ -164,20 +177,19 @@ LRESULT CGalleryDlg::OnKeepFocus(WPARAM /*wParam*/, LPARAM /*lParam*/)
     return TRUE;
 }
 
-void CGalleryDlg::RememberPlaces()
+// Page and code share what the window grows in height.
+void CGalleryDlg::SetUpLayout()
 {
-    CRect rect;
-    GetWindowRect(&rect);
-    m_smallestWindow = rect.Size();
-    GetClientRect(&rect);
-    m_smallestClient = rect.Size();
-    for (const Anchor& anchor : kAnchors)
-    {
-        CRect place;
-        GetDlgItem(anchor.control)->GetWindowRect(&place);
-        ScreenToClient(&place);
-        m_places[anchor.control] = place;
-    }
+    CRect window;
+    GetWindowRect(&window);
+    m_smallestWindow = window.Size();
+    m_resize.InitDlg(this);
+    m_resize.AddCtrl(IDC_GALLERY_TREE, 0, 0, 0, 1);
+    m_resize.AddCtrl(IDC_GALLERY_TITLE, 0, 0, 1, 0);
+    m_resize.AddCtrl(IDC_GALLERY_DESCRIPTION, 0, 0, 1, 0);
+    m_resize.AddCtrl(IDC_GALLERY_PAGE_AREA, 0, 0, 1, 0.5);
+    m_resize.AddCtrl(IDC_GALLERY_CODE_LABEL, 0, 0.5, 0, 0);
+    m_resize.AddCtrl(IDC_GALLERY_CODE, 0, 0.5, 1, 0.5);
 }
 
 void CGalleryDlg::MakeFonts()
@@ -189,17 +201,29 @@ void CGalleryDlg::MakeFonts()
     m_titleFont.CreatePointFontIndirect(&title);
     GetDlgItem(IDC_GALLERY_TITLE)->SetFont(&m_titleFont);
     m_codeFont.CreatePointFont(kCodeSize, L"新宋体");
-    GetDlgItem(IDC_GALLERY_CODE)->SetFont(&m_codeFont);
+    m_code.SetFont(&m_codeFont);
 }
 
-// What the search finds, in groups that are open; the page that is open stays selected when it is among it.
+// What the search finds; the page that is open stays selected when it is among it.
 void CGalleryDlg::FillTree()
 {
-    CString search;
-    m_search.GetWindowText(search);
     m_filling = true;
     m_tree.SetRedraw(FALSE);
     m_tree.DeleteAllItems();
+    AddFoundPages();
+    if (m_tree.GetCount() == 0)
+        m_tree.InsertItem(L"没有匹配");
+    m_filling = false;
+    const HTREEITEM current = m_entry != nullptr ? ItemOf(*m_entry) : nullptr;
+    m_tree.SelectItem(current != nullptr ? current : m_tree.GetChildItem(m_tree.GetRootItem()));
+    m_tree.SetRedraw(TRUE);
+}
+
+// In groups that are open.
+void CGalleryDlg::AddFoundPages()
+{
+    CString search;
+    m_search.GetWindowText(search);
     for (const GalleryEntry& entry : GalleryPages())
     {
         if (!MatchesSearch(entry, search))
@@ -208,10 +232,6 @@ void CGalleryDlg::FillTree()
         m_tree.SetItemData(m_tree.InsertItem(entry.title, group), reinterpret_cast<DWORD_PTR>(&entry));
         m_tree.Expand(group, TVE_EXPAND);
     }
-    m_filling = false;
-    const HTREEITEM current = m_entry != nullptr ? ItemOf(*m_entry) : nullptr;
-    m_tree.SelectItem(current != nullptr ? current : m_tree.GetChildItem(m_tree.GetRootItem()));
-    m_tree.SetRedraw(TRUE);
 }
 
 HTREEITEM CGalleryDlg::GroupItem(const wchar_t* group)
@@ -250,7 +270,7 @@ void CGalleryDlg::OpenPage(const GalleryEntry& entry)
     m_page.reset(entry.make());
     SetDlgItemText(IDC_GALLERY_TITLE, entry.title);
     SetDlgItemText(IDC_GALLERY_DESCRIPTION, entry.description);
-    SetDlgItemText(IDC_GALLERY_CODE, WithReturns(entry.code));
+    m_code.SetWindowText(WithReturns(entry.code));
     if (!m_page->CreateIn(*this))
         return;
     m_page->SetWindowText(entry.title);
@@ -270,8 +290,60 @@ void CGalleryDlg::PlacePage()
     m_page->SetWindowPos(area, rect.left, rect.top, rect.Width(), rect.Height(), SWP_NOACTIVATE);
 }
 
+bool CGalleryDlg::TakeKey(UINT key)
+{
+    const bool control = ::GetKeyState(VK_CONTROL) < 0;
+    if (key == VK_F3 || (control && key == L'F'))
+        GoToSearch();
+    else if (key == VK_F6 || (control && key == VK_TAB))
+        GoToNextPane(::GetKeyState(VK_SHIFT) < 0);
+    else if (key == VK_DOWN && GetFocus() == &m_search)
+        GoToFound();
+    else if (control && key == L'A' && GetFocus() == &m_code)
+        m_code.SetSel(0, -1); // before Windows 10 an edit of many lines does not know the key
+    else
+        return false;
+    return true;
+}
+
 void CGalleryDlg::GoToSearch()
 {
     m_search.SetFocus();
     m_search.SetSel(0, -1);
+}
+
+// To the first page found. Where nothing is searched the page that is open stays.
+void CGalleryDlg::GoToFound()
+{
+    const HTREEITEM first = m_tree.GetChildItem(m_tree.GetRootItem());
+    if (first == nullptr)
+        return;
+    if (m_search.GetWindowTextLength() > 0)
+        m_tree.SelectItem(first);
+    m_tree.SetFocus();
+}
+
+void CGalleryDlg::GoToNextPane(bool back)
+{
+    const int step = back ? PANES - 1 : 1;
+    int pane = (PaneWithFocus() + step) % PANES;
+    if (FirstControlOf(pane) == nullptr)
+        pane = (pane + step) % PANES;
+    GotoDlgCtrl(FirstControlOf(pane));
+}
+
+int CGalleryDlg::PaneWithFocus() const
+{
+    const HWND focus = ::GetFocus();
+    if (m_page && (focus == m_page->m_hWnd || ::IsChild(m_page->m_hWnd, focus)))
+        return PANE_PAGE;
+    return focus == m_code.m_hWnd ? PANE_CODE : PANE_TREE;
+}
+
+// Null for a page whose controls take no keys.
+CWnd* CGalleryDlg::FirstControlOf(int pane) const
+{
+    if (pane == PANE_PAGE)
+        return m_page ? m_page->GetNextDlgTabItem(nullptr) : nullptr;
+    return pane == PANE_CODE ? GetDlgItem(IDC_GALLERY_CODE) : GetDlgItem(IDC_GALLERY_TREE);
 }

@@ -1,13 +1,16 @@
 // The gallery's window: all controls in a tree, one of them at work, and the code that makes it.
 //
-// Modeless and owned by the host's frame; it deletes itself when it is closed. Ctrl+F goes to the search, Esc closes.
+// Modeless and owned by the host's frame; it deletes itself when it is closed, and opens next where it was.
+// Ctrl+F and F3 go to the search; Enter and Down go from there to what it found. F6 and Ctrl+Tab go around tree, page
+// and code, with Shift backwards. Esc empties the search, then closes.
 #pragma once
 
 #include "GalleryPages.h"
 
+#include <CtrlResize.h>
+
 #include <afxcmn.h>
 
-#include <map>
 #include <memory>
 
 class CGalleryDlg : public CDialog
@@ -29,6 +32,8 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
 
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
     afx_msg void OnSearchChange();
@@ -40,24 +45,30 @@ protected:
 private:
     CGalleryDlg() = default;
 
-    void RememberPlaces();
+    void SetUpLayout();
     void MakeFonts();
     void FillTree();
+    void AddFoundPages();
     HTREEITEM GroupItem(const wchar_t* group);
     const GalleryEntry* EntryOf(HTREEITEM item) const;
     HTREEITEM ItemOf(const GalleryEntry& entry) const;
     void OpenPage(const GalleryEntry& entry);
     void PlacePage();
+    bool TakeKey(UINT key);
     void GoToSearch();
+    void GoToFound();
+    void GoToNextPane(bool back);
+    int PaneWithFocus() const;
+    CWnd* FirstControlOf(int pane) const;
 
     static CGalleryDlg* s_current;
 
     CTreeCtrl m_tree;
     CEdit m_search;
+    CEdit m_code;
     CFont m_titleFont;
     CFont m_codeFont;
-    std::map<int, CRect> m_places; // of the controls in the smallest window, in client coordinates
-    CSize m_smallestClient;
+    CCtrlResize m_resize;
     CSize m_smallestWindow;
     std::unique_ptr<CGalleryPage> m_page;
     const GalleryEntry* m_entry = nullptr; // of the page that is open

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <CtrlResize.h>
+
 class CGalleryPage : public CDialog
 {
 public:
@@ -15,8 +17,16 @@ public:
 protected:
     explicit CGalleryPage(UINT templateId) : m_templateId(templateId) {}
 
+    BOOL OnInitDialog() override;
     void OnOK() override {}
     void OnCancel() override {}
+
+    afx_msg void OnSize(UINT type, int cx, int cy);
+
+    DECLARE_MESSAGE_MAP()
+
+    // Controls that a page adds here, once it is created, follow its size.
+    CCtrlResize m_resize;
 
 private:
     UINT m_templateId;

@@ -1,23 +1,29 @@
 ﻿#include "GalleryPages.h"
 
+#include "GalleryCode.h"
+#include "GallerySource.h"
+
+#include "pages/CheckTreePage.h"
 #include "pages/CheckWindowPage.h"
 #include "pages/ComboButtonPage.h"
 #include "pages/EditableListPage.h"
-#include "pages/CheckTreePage.h"
+#include "pages/FollowTipPage.h"
 #include "pages/HtmlPage.h"
 #include "pages/IconTreePage.h"
-#include "pages/FollowTipPage.h"
 #include "pages/InputDialogPage.h"
+#include "pages/LabelPage.h"
+#include "pages/MessageObjectPage.h"
+#include "pages/MessagesPage.h"
+#include "pages/PropertySheetPage.h"
 #include "pages/ResizerPage.h"
 #include "pages/RichEditPage.h"
-#include "pages/LabelPage.h"
-#include "pages/PropertySheetPage.h"
 #include "pages/SlidePage.h"
 #include "pages/SortListPage.h"
 #include "pages/SuperEditPage.h"
-#include "pages/TreeCommandsPage.h"
 #include "pages/TabSheetPage.h"
 #include "pages/TipButtonPage.h"
+#include "pages/TreeCommandsPage.h"
+#include "pages/WaitDialogPage.h"
 
 namespace
 {
@@ -25,7 +31,8 @@ namespace
 template<class PAGE>
 GalleryEntry Page(const wchar_t* name, const wchar_t* group, const wchar_t* title)
 {
-    return {name, group, title, PAGE::Description, PAGE::Code, []() -> CGalleryPage* { return new PAGE; }};
+    const CString code = ShownLines(SourceOfPage(name));
+    return {name, group, title, PAGE::Description, code, []() -> CGalleryPage* { return new PAGE; }};
 }
 
 } // namespace
@@ -51,6 +58,9 @@ const std::vector<GalleryEntry>& GalleryPages()
         Page<CLabelPage>(L"label", L"提示与显示", L"上下标文字"),
         Page<CSlidePage>(L"slide", L"提示与显示", L"图片预览"),
         Page<CTabSheetPage>(L"tab-sheet", L"提示与显示", L"选项卡"),
+        Page<CMessagesPage>(L"messages", L"消息", L"消息服务"),
+        Page<CWaitDialogPage>(L"wait-dialog", L"消息", L"等待对话框"),
+        Page<CMessageObjectPage>(L"message-object", L"消息", L"消息汇总"),
     };
     return pages;
 }

@@ -11,7 +11,7 @@ struct GalleryEntry
     const wchar_t* group;
     const wchar_t* title;
     const wchar_t* description; // a sentence or two
-    const wchar_t* code;        // what makes the control; lines end in \n
+    CString code;               // what makes the control; lines end in \n
     CGalleryPage* (*make)();    // the caller owns the page
 };
 

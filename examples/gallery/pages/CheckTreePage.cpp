@@ -7,23 +7,10 @@
 const wchar_t CCheckTreePage::Description[] =
     L"勾选一项即勾选其全部子项，上级显示全选、部分或未选。红色标志的项不可勾选，固定的项不随上级改变。";
 
-const wchar_t CCheckTreePage::Code[] = LR"(#include <StateTreeCtrl.h>
-
-CStateTreeCtrl m_tree;                          // 对话框成员
-DDX_Control(exchange, IDC_TREE, m_tree);        // 模板中的任意树控件
-
-const HTREEITEM layers = m_tree.InsertItem(L"图层");
-const HTREEITEM frame = m_tree.InsertItem(L"图框", layers);
-m_tree.SetCheck(layers, 1);                     // 连同全部子项
-m_tree.EnableCheck(frame, 0);                   // 不可勾选
-m_tree.EnableChangeOtherItemState(axis, 0);     // 固定：不随上级改变
-
-ON_NOTIFY(STATETREEN_CHECKCHANGED, IDC_TREE, &CMyDlg::OnCheckChanged)
-const NMSTATETREECHECK* change = reinterpret_cast<NMSTATETREECHECK*>(header);
-ShowLayer(change->hItem, change->bCheck != 0);)";
-
 BEGIN_MESSAGE_MAP(CCheckTreePage, CGalleryPage)
+    // [show]
     ON_NOTIFY(STATETREEN_CHECKCHANGED, IDC_CHECK_TREE, &CCheckTreePage::OnCheckChanged)
+    // [end]
     ON_NOTIFY(STATETREEN_CLICK, IDC_CHECK_TREE, &CCheckTreePage::OnTreeClicked)
 END_MESSAGE_MAP()
 
@@ -32,7 +19,9 @@ CCheckTreePage::CCheckTreePage() : CGalleryPage(IDD_CHECK_TREE_PAGE) {}
 void CCheckTreePage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_CHECK_TREE, m_tree);
+    // [show]
+    DDX_Control(exchange, IDC_CHECK_TREE, m_tree); // 模板中的任意树控件
+    // [end]
     DDX_Control(exchange, IDC_CHECK_TREE_LOG, m_log);
 }
 
@@ -41,22 +30,31 @@ BOOL CCheckTreePage::OnInitDialog()
     CGalleryPage::OnInitDialog();
     const HTREEITEM layers = AddBranch(L"图层", {L"轮廓线", L"中心线", L"标注", L"图框"});
     const HTREEITEM blocks = AddBranch(L"图块", {L"M12 螺栓", L"轴承 6204", L"标题栏"});
-    m_tree.SetCheck(layers, 1);
+    const HTREEITEM frame = MFCUtils::FindTreeItem(&m_tree, L"图框", layers);
+    const HTREEITEM titleBlock = MFCUtils::FindTreeItem(&m_tree, L"标题栏", blocks);
+    // [show]
+    m_tree.SetCheck(layers, 1);                       // 连同全部子项
+    m_tree.EnableCheck(frame, 0);                     // 不可勾选
+    m_tree.EnableChangeOtherItemState(titleBlock, 0); // 固定：不随上级改变
+    // [end]
     m_tree.SetCheck(MFCUtils::FindTreeItem(&m_tree, L"标注", layers), 0);
-    m_tree.EnableCheck(MFCUtils::FindTreeItem(&m_tree, L"图框", layers), 0);
-    m_tree.EnableChangeOtherItemState(MFCUtils::FindTreeItem(&m_tree, L"标题栏", blocks), 0);
     m_tree.SetCheck(MFCUtils::FindTreeItem(&m_tree, L"M12 螺栓", blocks), 1);
     m_tree.SetCheck(MFCUtils::FindTreeItem(&m_tree, L"轴承 6204", blocks), 1);
+    m_resize.AddCtrl(IDC_CHECK_TREE, 0, 0, 0.5, 1);
+    m_resize.AddCtrl(IDC_CHECK_TREE_LOG_LABEL, 0.5, 0, 0.5, 0);
+    m_resize.AddCtrl(IDC_CHECK_TREE_LOG, 0.5, 0, 0.5, 1);
     Log(L"请单击复选框或文字");
     return TRUE;
 }
 
+// [show]
 void CCheckTreePage::OnCheckChanged(NMHDR* header, LRESULT* result)
 {
     const NMSTATETREECHECK& change = *reinterpret_cast<const NMSTATETREECHECK*>(header);
     Log((change.bCheck ? L"勾选：" : L"取消：") + m_tree.GetItemText(change.hItem));
     *result = 0;
 }
+// [end]
 
 void CCheckTreePage::OnTreeClicked(NMHDR*, LRESULT* result)
 {

@@ -1,15 +1,16 @@
-// The check tree: layers and blocks, some of them disabled or fixed, and what the tree tells its parent.
+﻿// The check tree: layers and blocks, some of them disabled or fixed, and what the tree tells its parent.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <StateTreeCtrl.h>
+// [end]
 
 class CCheckTreePage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CCheckTreePage();
 
@@ -26,6 +27,8 @@ private:
     HTREEITEM AddBranch(const wchar_t* name, std::initializer_list<const wchar_t*> leaves);
     void Log(const CString& line);
 
-    CStateTreeCtrl m_tree;
+    // [show]
+    CStateTreeCtrl m_tree; // 对话框成员
+    // [end]
     CListBox m_log;
 };

@@ -5,19 +5,6 @@
 const wchar_t CCheckWindowPage::Description[] =
     L"鼠标停在图形上时，旁边弹出检查信息。窗口在自己的线程中运行，主线程只投递文字。可拖动、缩放、锁定位置。";
 
-const wchar_t CCheckWindowPage::Code[] = LR"(#include <CheckSpecMsgThread.h>
-
-CCheckSpecMsgThread* m_window =                    // 窗口及其线程
-    static_cast<CCheckSpecMsgThread*>(
-        AfxBeginThread(RUNTIME_CLASS(CCheckSpecMsgThread)));
-
-CStringArray texts;                                // 鼠标下的图形已改变
-texts.Add(L"图层: 轴线");
-texts.Add(L"颜色应为 ByLayer");
-m_window->ShowMsg(texts);
-
-m_window->End();                                   // 结束后对象自行删除)";
-
 namespace
 {
 
@@ -66,6 +53,7 @@ BEGIN_MESSAGE_MAP(CCheckedDrawing, CStatic)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 
+// [show]
 void CCheckedDrawing::Start()
 {
     m_window = static_cast<CCheckSpecMsgThread*>(AfxBeginThread(RUNTIME_CLASS(CCheckSpecMsgThread)));
@@ -77,18 +65,21 @@ void CCheckedDrawing::End()
         m_window->End();
     m_window = nullptr;
 }
+// [end]
 
 // The texts are posted again while the window is hidden, so that it comes up wherever on a shape the mouse rests.
 void CCheckedDrawing::OnMouseMove(UINT flags, CPoint point)
 {
     const int shape = ShapeAt(point);
+    // [show]
     if (m_window != nullptr && shape >= 0 && (shape != m_shape || !m_window->IsDlgShowed()))
     {
         CStringArray texts;
         for (const wchar_t* line : kShapes[shape].lines)
             texts.Add(line);
-        m_window->ShowMsg(texts);
+        m_window->ShowMsg(texts); // 主线程只投递文字
     }
+    // [end]
     m_shape = shape;
     CStatic::OnMouseMove(flags, point);
 }

@@ -1,9 +1,11 @@
-// The check window: what a check found about the shape under the mouse.
+﻿// The check window: what a check found about the shape under the mouse.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <CheckSpecMsgThread.h>
+// [end]
 
 // A little drawing that tells the window what the mouse is over.
 class CCheckedDrawing : public CStatic
@@ -22,7 +24,9 @@ private:
     CRect PlaceOf(int shape) const;
     int ShapeAt(CPoint point) const; // -1: none
 
-    CCheckSpecMsgThread* m_window = nullptr; // deletes itself after its end
+    // [show]
+    CCheckSpecMsgThread* m_window = nullptr; // 窗口及其线程；结束后自行删除
+    // [end]
     int m_shape = -1;
 };
 
@@ -30,7 +34,6 @@ class CCheckWindowPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CCheckWindowPage();
 

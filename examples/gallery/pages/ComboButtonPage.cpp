@@ -5,22 +5,6 @@
 const wchar_t CComboButtonPage::Description[] =
     L"带一组命令的按钮：单击执行默认命令；右侧的箭头打开全部命令的菜单，选中的命令随即执行并成为默认命令。";
 
-const wchar_t CComboButtonPage::Code[] = LR"code(#include <ComboButton.h>
-
-class CNewCommand : public CComboButtonItem     // 按钮中的一条命令
-{
-public:
-    virtual bool Enabled() { return true; }
-    virtual HICON GetIcon() { return m_icon; }
-    virtual CString GetName() { return L"新建"; }
-    virtual void Action() { CreateNew(); }
-};
-
-DDX_Control(exchange, IDC_COMMANDS, m_button);  // 取代模板中的按钮
-m_button.AddItem(&m_new);                       // 第一条是默认命令
-m_button.AddItem(&m_copy);                      // 按钮不拥有它们
-m_button.SetComboButtonStyle(CBTS_ROUND | CBTS_GRADIENT | CBTS_SHOWIMAGE);)code";
-
 namespace
 {
 
@@ -42,6 +26,13 @@ const int kUnavailable = 7;
 
 } // namespace
 
+// [show]
+void CFindItem::Action()
+{
+    m_page->Show(L"查找");
+}
+// [end]
+
 BEGIN_MESSAGE_MAP(CComboButtonPage, CGalleryPage)
     ON_MESSAGE(UM_TREE_NEW, &CComboButtonPage::OnNew)
     ON_MESSAGE(UM_TREE_COPYFROM, &CComboButtonPage::OnCopyFrom)
@@ -52,7 +43,7 @@ END_MESSAGE_MAP()
 CComboButtonPage::CComboButtonPage()
     : CGalleryPage(IDD_COMBO_BUTTON_PAGE), m_new(this, MFCUtils::CComboButtonIMPItem::eNew, 0),
       m_copy(this, MFCUtils::CComboButtonIMPItem::eCopyFrom, 0), m_edit(this, MFCUtils::CComboButtonIMPItem::eEdit, 0),
-      m_delete(this, MFCUtils::CComboButtonIMPItem::eDel, 0)
+      m_delete(this, MFCUtils::CComboButtonIMPItem::eDel, 0), m_find(this)
 {
     m_delete.SetEnable(false);
 }
@@ -60,8 +51,11 @@ CComboButtonPage::CComboButtonPage()
 void CComboButtonPage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
+    // [show]
+    // 取代模板中的按钮
     for (int i = 0; i < BUTTONS; ++i)
         DDX_Control(exchange, IDC_COMBO_BUTTON + i, m_buttons[i]);
+    // [end]
 }
 
 BOOL CComboButtonPage::OnInitDialog()
@@ -69,11 +63,14 @@ BOOL CComboButtonPage::OnInitDialog()
     CGalleryPage::OnInitDialog();
     for (int i = 0; i < BUTTONS; ++i)
     {
-        m_buttons[i].AddItem(&m_new);
+        // [show]
+        m_buttons[i].AddItem(&m_new); // 第一条是默认命令；按钮不拥有它们
         m_buttons[i].AddItem(&m_copy);
         m_buttons[i].AddItem(&m_edit);
         m_buttons[i].AddItem(&m_delete);
-        m_buttons[i].SetComboButtonStyle(kStyles[i]);
+        m_buttons[i].AddItem(&m_find);
+        m_buttons[i].SetComboButtonStyle(kStyles[i]); // CBTS_ROUND | CBTS_SHOWIMAGE ...
+        // [end]
     }
     m_buttons[kUnavailable].SetDefaultItem(&m_delete);
     return TRUE;

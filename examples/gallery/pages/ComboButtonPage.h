@@ -3,16 +3,38 @@
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <ComboButton.h>
+#include <ComboButtonItem.h>
+// [end]
 #include <ComboButtonIMPItem.h>
+
+class CComboButtonPage;
+
+// [show]
+class CFindItem : public CComboButtonItem // 按钮中的一条命令
+{
+public:
+    explicit CFindItem(CComboButtonPage* page) : m_page(page) {}
+
+    virtual bool Enabled() { return true; }
+    virtual HICON GetIcon() { return NULL; } // 没有图标
+    virtual CString GetName() { return L"查找(&F)"; }
+    virtual void Action();
+
+private:
+    CComboButtonPage* m_page;
+};
+// [end]
 
 class CComboButtonPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CComboButtonPage();
+
+    LRESULT Show(const wchar_t* command);
 
 protected:
     enum
@@ -31,11 +53,12 @@ protected:
     afx_msg LRESULT OnDelete(WPARAM, LPARAM) { return Show(L"删除"); }
 
 private:
-    LRESULT Show(const wchar_t* command);
-
     MFCUtils::CComboButtonIMPItem m_new;
     MFCUtils::CComboButtonIMPItem m_copy;
     MFCUtils::CComboButtonIMPItem m_edit;
     MFCUtils::CComboButtonIMPItem m_delete;
-    CComboButton m_buttons[BUTTONS];
+    CFindItem m_find;
+    // [show]
+    CComboButton m_buttons[BUTTONS]; // 对话框成员
+    // [end]
 };

@@ -9,23 +9,6 @@
 const wchar_t CEditableListPage::Description[] =
     L"单击单元格就地编辑：名称是校验编辑框，颜色带按钮，线宽和开关是组合框，日期是日期控件。回车到下一格，上下键换行。";
 
-const wchar_t CEditableListPage::Code[] = LR"(#include <ZNListCtrl.h>
-
-// 消息映射：ON_NOTIFY(LVN_BEGINLABELEDITW, IDC_LAYERS, &CMyDlg::OnBeginEdit)
-//           ON_NOTIFY(LVN_ENDLABELEDITW, IDC_LAYERS, &CMyDlg::OnEndEdit)
-
-void CMyDlg::OnBeginEdit(NMHDR* header, LRESULT*)   // 父窗口决定用哪种编辑器
-{
-    const LVITEMW& cell = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
-    m_layers.ShowInPlaceEdit(cell.iItem, cell.iSubItem, cell.pszText);
-}
-
-void CMyDlg::OnEndEdit(NMHDR* header, LRESULT*)     // 列表自己不写单元格
-{
-    const LVITEMW& cell = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
-    m_layers.SetItemText(cell.iItem, cell.iSubItem, cell.pszText);
-})";
-
 namespace
 {
 
@@ -56,8 +39,10 @@ const int kLongestName = 31;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CEditableListPage, CGalleryPage)
+    // [show]
     ON_NOTIFY(LVN_BEGINLABELEDITW, IDC_EDITABLE_LIST, &CEditableListPage::OnBeginEdit)
     ON_NOTIFY(LVN_ENDLABELEDITW, IDC_EDITABLE_LIST, &CEditableListPage::OnEndEdit)
+    // [end]
     ON_MESSAGE(WM_PICK_COLOUR, &CEditableListPage::OnPickColour)
     ON_BN_CLICKED(IDC_EDITABLE_LIST_UP, &CEditableListPage::OnUp)
     ON_BN_CLICKED(IDC_EDITABLE_LIST_DOWN, &CEditableListPage::OnDown)
@@ -86,12 +71,17 @@ BOOL CEditableListPage::OnInitDialog()
         for (int column = COLUMN_COLOUR; column < COLUMNS; ++column)
             m_layers.SetItemText(row, column, layer[column]);
     }
+    m_resize.AddCtrl(IDC_EDITABLE_LIST, 0, 0, 1, 1);
+    for (int id = IDC_EDITABLE_LIST_UP; id <= IDC_EDITABLE_LIST_DELETE; ++id)
+        m_resize.AddCtrl(id, 1, 0, 0, 0);
     m_layers.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
     m_layers.SetIsColorColumn(COLUMN_COLOUR, 1);
     m_layers.ShowInPlaceEditBtn(1, COLUMN_COLOUR, WM_PICK_COLOUR, m_layers.GetItemText(1, COLUMN_COLOUR));
     return TRUE;
 }
 
+// [show]
+// 父窗口决定用哪种编辑器
 void CEditableListPage::OnBeginEdit(NMHDR* header, LRESULT* result)
 {
     const LVITEMW& cell = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
@@ -117,12 +107,14 @@ void CEditableListPage::OnBeginEdit(NMHDR* header, LRESULT* result)
     *result = 0;
 }
 
+// 列表自己不写单元格
 void CEditableListPage::OnEndEdit(NMHDR* header, LRESULT* result)
 {
     const LVITEMW& cell = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
     m_layers.SetItemText(cell.iItem, cell.iSubItem, cell.pszText);
     *result = 0;
 }
+// [end]
 
 LRESULT CEditableListPage::OnPickColour(WPARAM row, LPARAM column)
 {

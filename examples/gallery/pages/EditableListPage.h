@@ -1,15 +1,16 @@
-// The editable list: every editor in one table of layers.
+﻿// The editable list: every editor in one table of layers.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <ZNListCtrl.h>
+// [end]
 
 class CEditableListPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CEditableListPage();
 
@@ -30,5 +31,7 @@ protected:
 private:
     void ShowChoice(const LVITEMW& cell, const wchar_t* const* choices, int count);
 
-    CZNListCtrl m_layers;
+    // [show]
+    CZNListCtrl m_layers; // 对话框成员
+    // [end]
 };

@@ -2,24 +2,12 @@
 
 #include "../GalleryIds.h"
 
+// [show]
 #include <FollowMouseTipWnd.h>
+// [end]
 
 const wchar_t CFollowTipPage::Description[] =
     L"随鼠标移动的提示。鼠标离开所监视的窗口时提示隐藏，返回时再次显示；到时间后自行消失。";
-
-const wchar_t CFollowTipPage::Code[] = LR"(#include <FollowMouseTipWnd.h>
-
-CFollowMouseTipWnd::SetWatchWnd(&m_area);   // 只在此窗口上显示
-
-void CWatchedArea::OnMouseMove(UINT flags, CPoint point)
-{
-    CString text;
-    text.Format(L"X: %d\nY: %d", point.x, point.y);
-    CFollowMouseTipWnd::ShowMsg(text, 0, NULL);   // 0：20 秒
-    CStatic::OnMouseMove(flags, point);
-}
-
-CFollowMouseTipWnd::Destroy();              // 对话框关闭时)";
 
 namespace
 {
@@ -33,13 +21,15 @@ BEGIN_MESSAGE_MAP(CWatchedArea, CStatic)
     ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
+// [show]
 void CWatchedArea::OnMouseMove(UINT flags, CPoint point)
 {
     CString text;
     text.Format(L"X: %d\nY: %d", static_cast<int>(point.x), static_cast<int>(point.y));
-    CFollowMouseTipWnd::ShowMsg(text, 0, NULL);
+    CFollowMouseTipWnd::ShowMsg(text, 0, NULL); // 0：20 秒
     CStatic::OnMouseMove(flags, point);
 }
+// [end]
 
 BEGIN_MESSAGE_MAP(CFollowTipPage, CGalleryPage)
     ON_WM_DESTROY()
@@ -57,17 +47,24 @@ void CFollowTipPage::DoDataExchange(CDataExchange* exchange)
 BOOL CFollowTipPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
-    CFollowMouseTipWnd::SetWatchWnd(&m_area);
+    m_resize.AddCtrl(IDC_FOLLOW_TIP_AREA, 0, 0, 1, 1);
+    // [show]
+    CFollowMouseTipWnd::SetWatchWnd(&m_area); // 只在此窗口上显示
+    // [end]
     return TRUE;
 }
 
 void CFollowTipPage::OnDestroy()
 {
-    CFollowMouseTipWnd::Destroy();
+    // [show]
+    CFollowMouseTipWnd::Destroy(); // 对话框关闭时
+    // [end]
     CGalleryPage::OnDestroy();
 }
 
 void CFollowTipPage::OnShowMessage()
 {
+    // [show]
     CFollowMouseTipWnd::ShowMsg(kMessage, kMessageSeconds, NULL);
+    // [end]
 }

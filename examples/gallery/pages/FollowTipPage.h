@@ -16,7 +16,6 @@ class CFollowTipPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CFollowTipPage();
 

@@ -10,22 +10,6 @@ const wchar_t CHtmlPage::Description[] =
     L"对话框中的浏览器。以 “app:” 开头的链接不打开网页，而是交给程序的命令；其他地址照常打开。"
     L"网页由系统的浏览器显示：在 Wine 下没有显示引擎，左侧为空白，命令照常工作，请用右侧的按钮。";
 
-const wchar_t CHtmlPage::Code[] = LR"(#include <HtmlCtrl.h>
-
-class CHelpCtrl : public CHtmlCtrl
-{
-    virtual void OnAppCmd(const wchar_t* pszCmd)   // <a href="app:open?id=3">
-    {
-        Run(pszCmd);                               // "open?id=3"
-    }
-};
-
-CHelpCtrl m_html;                                  // 对话框成员
-
-// OnInitDialog：取代模板中的静态控件
-if (m_html.CreateFromStatic(IDC_PLACE, this))
-    m_html.LoadFromResource(L"help.html");)";
-
 namespace
 {
 
@@ -44,10 +28,13 @@ BOOL CHtmlPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
     const CAcModuleResourceOverride resources;
-    if (m_html.CreateFromStatic(IDC_HTML_PLACE, this))
+    // [show]
+    if (m_html.CreateFromStatic(IDC_HTML_PLACE, this)) // 取代模板中的静态控件
         m_html.LoadFromResource(L"help.html");
     else
         SetDlgItemText(IDC_HTML_STATE, L"系统中没有可用的浏览器控件。");
+    // [end]
+    m_resize.AddCtrl(IDC_HTML_LOG, 0, 0, 1, 1);
     return TRUE;
 }
 
@@ -56,6 +43,7 @@ void CHtmlPage::OnLink(UINT id)
     m_html.Navigate2(kAddresses[id - IDC_HTML_OPEN]);
 }
 
+// [show]
 void CHtmlPage::CLinks::OnBeforeNavigate2(LPCTSTR url, DWORD flags, LPCTSTR target, CByteArray& data, LPCTSTR headers,
                                           BOOL* cancel)
 {
@@ -68,6 +56,7 @@ void CHtmlPage::CLinks::OnAppCmd(const wchar_t* command)
 {
     Log(L"执行命令: ", command);
 }
+// [end]
 
 void CHtmlPage::CLinks::Log(const wchar_t* what, const wchar_t* text)
 {

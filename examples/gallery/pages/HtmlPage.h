@@ -1,15 +1,16 @@
-// The browser control: a page whose links are commands, and the log of what they ask for.
+﻿// The browser control: a page whose links are commands, and the log of what they ask for.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <HtmlCtrl.h>
+// [end]
 
 class CHtmlPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CHtmlPage();
 
@@ -22,16 +23,20 @@ protected:
 
 private:
     // Writes into the log what the page asks for.
+    // [show]
     class CLinks : public CHtmlCtrl
     {
     public:
         void OnBeforeNavigate2(LPCTSTR url, DWORD flags, LPCTSTR target, CByteArray& data, LPCTSTR headers,
                                BOOL* cancel) override;
-        void OnAppCmd(const wchar_t* command) override;
+        void OnAppCmd(const wchar_t* command) override; // <a href="app:open?id=3">
 
     private:
         void Log(const wchar_t* what, const wchar_t* text);
     };
+    // [end]
 
-    CLinks m_html;
+    // [show]
+    CLinks m_html; // 对话框成员
+    // [end]
 };

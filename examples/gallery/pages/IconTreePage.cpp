@@ -2,25 +2,12 @@
 
 #include "../GalleryIds.h"
 
+// [show]
 #include <MFCUtils.h>
+// [end]
 
 const wchar_t CIconTreePage::Description[] =
     L"在图像与文字之间显示任意多个附加图标：图标句柄、树自身图像列表或附加图像列表中的图像均可。";
-
-const wchar_t CIconTreePage::Code[] = LR"(#include <AddedIconTreeCtrl.h>
-
-CImageList m_marks;                             // 须与树同在
-CAddedIconTreeCtrl m_tree;                      // 对话框成员
-DDX_Control(exchange, IDC_TREE, m_tree);
-
-m_tree.SetAddedImageList(&m_marks);
-const HTREEITEM item = m_tree.InsertItem(L"M12 螺栓");
-
-CTreeItemImages icons;                          // 从左到右
-icons.AddImage(MARK_EDITED, CTreeItemImages::IMG_ADDEDLIST);
-icons.AddImage(IMAGE_LAYER, CTreeItemImages::IMG_TREELIST);
-icons.AddIcon(m_warning);                       // 句柄仍归调用者
-m_tree.SetAddedIcons(item, icons);)";
 
 namespace
 {
@@ -43,14 +30,19 @@ CIconTreePage::CIconTreePage() : CGalleryPage(IDD_ICON_TREE_PAGE) {}
 void CIconTreePage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
+    // [show]
     DDX_Control(exchange, IDC_ICON_TREE, m_tree);
+    // [end]
 }
 
 BOOL CIconTreePage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
     LoadMarks();
+    m_resize.AddCtrl(IDC_ICON_TREE, 0, 0, 1, 1);
+    // [show]
     m_tree.SetAddedImageList(&m_marks);
+    // [end]
     const HTREEITEM standard = Add(L"标准件", TVI_ROOT, {});
     Add(L"M12 螺栓", standard, {MARK_NEW});
     Add(L"轴承 6204", standard, {MARK_COPIED, MARK_EDITED});
@@ -69,10 +61,12 @@ BOOL CIconTreePage::OnInitDialog()
 HTREEITEM CIconTreePage::Add(const wchar_t* name, HTREEITEM parent, std::initializer_list<int> marks)
 {
     const HTREEITEM item = m_tree.InsertItem(name, parent);
-    CTreeItemImages icons;
+    // [show]
+    CTreeItemImages icons; // 从左到右
     for (int mark : marks)
         icons.AddImage(mark, CTreeItemImages::IMG_ADDEDLIST);
     m_tree.SetAddedIcons(item, icons);
+    // [end]
     return item;
 }
 
@@ -81,8 +75,10 @@ void CIconTreePage::LoadMarks()
     CStringArray names;
     for (const wchar_t* name : {L"IDI_ICON_NEW", L"IDI_ICON_COPYFROM", L"IDI_ICON_EDIT", L"IDI_ICON_RENAME"})
         names.Add(name);
-    HICON icons[MARK_COUNT] = {};
+    // [show]
+    HICON icons[MARK_COUNT] = {}; // 图标归调用者
     MFCUtils::LoadIcons(names, icons, kMarkPixels, kMarkPixels);
+    // [end]
     m_marks.Create(kMarkPixels, kMarkPixels, ILC_COLOR32 | ILC_MASK, MARK_COUNT, 0);
     for (HICON icon : icons)
     {

@@ -1,15 +1,17 @@
-// The icon tree: marks between the image and the label of an item.
+﻿// The icon tree: marks between the image and the label of an item.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <AddedIconTreeCtrl.h>
+#include <TreeItemImages.h>
+// [end]
 
 class CIconTreePage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CIconTreePage();
 
@@ -21,6 +23,8 @@ private:
     HTREEITEM Add(const wchar_t* name, HTREEITEM parent, std::initializer_list<int> marks);
     void LoadMarks();
 
-    CImageList m_marks;
+    // [show]
+    CImageList m_marks; // 须与树同在
     CAddedIconTreeCtrl m_tree;
+    // [end]
 };

@@ -2,26 +2,12 @@
 
 #include "../GalleryIds.h"
 
+// [show]
 #include <InputDialog.h>
+// [end]
 
 const wchar_t CInputDialogPage::Description[] =
     L"请用户输入一行文字的小对话框。派生类给出标题、提示和初始文字，并决定是否接受输入。";
-
-const wchar_t CInputDialogPage::Code[] = LR"(#include <InputDialog.h>
-
-class CLayerNameDialog : public CInputDialog
-{
-public:
-    explicit CLayerNameDialog(CWnd* parent) : CInputDialog(parent) {}
-    virtual CString TipMsg() { return L"图层名:"; }
-    virtual CString DefaultValue() { return L"轮廓线"; }
-    // false：对话框保持打开
-    virtual bool OnOk(CString& value) { return !value.Trim().IsEmpty(); }
-};
-
-CString name;
-if (CLayerNameDialog(this).Input(name))
-    Rename(name);)";
 
 namespace
 {
@@ -29,6 +15,7 @@ namespace
 const wchar_t kForbidden[] = L"<>/\\:;?*|=";
 const int kLongestName = 31;
 
+// [show]
 class CLayerNameDialog : public CInputDialog
 {
 public:
@@ -38,14 +25,16 @@ public:
     CString TipMsg() override { return L"图层名:"; }
     CString DefaultValue() override { return m_name; }
     void OnInitDialog() override { GetEditControl()->SetLimitText(kLongestName); }
-    bool OnOk(CString& value) override;
+    bool OnOk(CString& value) override; // false：对话框保持打开
 
 private:
     bool Refuse(const wchar_t* reason);
 
     CString m_name;
 };
+// [end]
 
+// [show]
 bool CLayerNameDialog::OnOk(CString& value)
 {
     if (value.Trim().IsEmpty())
@@ -54,6 +43,7 @@ bool CLayerNameDialog::OnOk(CString& value)
         return Refuse(L"名称含有不允许的字符:");
     return true;
 }
+// [end]
 
 bool CLayerNameDialog::Refuse(const wchar_t* reason)
 {
@@ -75,6 +65,8 @@ void CInputDialogPage::OnAsk()
 {
     CString name;
     GetDlgItemText(IDC_INPUT_DIALOG_ANSWER, name);
+    // [show]
     if (CLayerNameDialog(this, name).Input(name))
         SetDlgItemText(IDC_INPUT_DIALOG_ANSWER, name);
+    // [end]
 }

@@ -3,13 +3,14 @@
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <ZNKTLabel.h>
+// [end]
 
 class CLabelPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CLabelPage();
 
@@ -21,8 +22,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // [show]
     CZNKTLabel m_area;
     CZNKTLabel m_water;
     CZNKTLabel m_flow;
     CZNKTLabel m_own;
+    // [end]
 };

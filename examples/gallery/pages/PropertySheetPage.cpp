@@ -3,30 +3,12 @@
 #include "../GalleryIds.h"
 
 #include <AcExtensionModule.h>
+// [show]
 #include <NoHelpPropertySheet.h>
+// [end]
 
 const wchar_t CPropertySheetPage::Description[] =
     L"没有“帮助”按钮的属性表。“应用”始终可用，可以一次应用所有页，也可以不显示；打开时即创建所有页。";
-
-const wchar_t CPropertySheetPage::Code[] = LR"(#include <NoHelpPropertySheet.h>
-
-class CGeneralPage : public CPropertyPage
-{
-public:
-    CGeneralPage() : CPropertyPage(IDD_GENERAL) {}
-    virtual BOOL OnApply();                        // FALSE：其余页不再应用
-};
-
-CGeneralPage general;
-CDrawingPage drawing;
-
-CNoHelpPropertySheet sheet(L"选项", this);
-sheet.AddPage(&general);
-sheet.AddPage(&drawing);
-sheet.SetShowApply(true);                          // false：没有“应用”
-sheet.SetApplyAllPages(true);                      // false：只应用当前页
-if (sheet.DoModal() == IDOK)
-    Save();)";
 
 namespace
 {
@@ -39,11 +21,13 @@ public:
     {
     }
 
-    BOOL OnApply() override
+    // [show]
+    BOOL OnApply() override // FALSE：其余页不再应用
     {
         m_log.SetCurSel(m_log.AddString(L"应用: " + m_name));
         return CPropertyPage::OnApply();
     }
+    // [end]
 
 private:
     CString m_name;
@@ -61,6 +45,7 @@ CPropertySheetPage::CPropertySheetPage() : CGalleryPage(IDD_PROPERTY_SHEET_PAGE)
 BOOL CPropertySheetPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
+    m_resize.AddCtrl(IDC_PROPERTY_SHEET_LOG, 0, 0, 1, 1);
     CheckDlgButton(IDC_PROPERTY_SHEET_SHOW_APPLY, BST_CHECKED);
     CheckDlgButton(IDC_PROPERTY_SHEET_APPLY_ALL, BST_CHECKED);
     return TRUE;
@@ -73,14 +58,18 @@ void CPropertySheetPage::OnOpen()
     CLoggingPage drawing(IDD_SHEET_DRAWING, L"图形", log);
     CLoggingPage output(IDD_SHEET_OUTPUT, L"输出", log);
 
+    // [show]
     CNoHelpPropertySheet sheet(L"选项", this);
     sheet.AddPage(&general);
     sheet.AddPage(&drawing);
     sheet.AddPage(&output);
-    sheet.SetShowApply(IsDlgButtonChecked(IDC_PROPERTY_SHEET_SHOW_APPLY) == BST_CHECKED);
-    sheet.SetApplyAllPages(IsDlgButtonChecked(IDC_PROPERTY_SHEET_APPLY_ALL) == BST_CHECKED);
+    const UINT showApply = IsDlgButtonChecked(IDC_PROPERTY_SHEET_SHOW_APPLY);
+    sheet.SetShowApply(showApply == BST_CHECKED); // false：没有“应用”
+    const UINT applyAll = IsDlgButtonChecked(IDC_PROPERTY_SHEET_APPLY_ALL);
+    sheet.SetApplyAllPages(applyAll == BST_CHECKED); // false：只应用当前页
 
     const CAcModuleResourceOverride resources;
     const INT_PTR result = sheet.DoModal();
+    // [end]
     log.SetCurSel(log.AddString(result == IDOK ? L"关闭: 确定" : L"关闭: 取消"));
 }

@@ -7,7 +7,6 @@ class CPropertySheetPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CPropertySheetPage();
 

@@ -2,23 +2,12 @@
 
 #include "../GalleryIds.h"
 
+// [show]
 #include <CtrlResize.h>
+// [end]
 
 const wchar_t CResizerPage::Description[] =
     L"对话框改变大小时，每个控件按比例移动和伸展；窗口的位置和大小按名称保存，下次打开时恢复。";
-
-const wchar_t CResizerPage::Code[] = LR"(#include <CtrlResize.h>
-
-CCtrlResize m_resize;                           // 对话框成员
-
-m_resize.InitDlg(this);                         // OnInitDialog
-m_resize.AddCtrl(IDC_LAYERS, 0, 0, 1, 1);       // 随对话框伸展
-m_resize.AddCtrl(IDOK, 1, 1, 0, 0);             // 跟随右下角
-CCtrlResize::RestoreWinPos(L"Layers", m_hWnd, TRUE);
-
-m_resize.ResizeAllCtrl(cx, cy);                 // OnSize
-
-CCtrlResize::SaveWinPos(L"Layers", m_hWnd, TRUE); // OnDestroy)";
 
 namespace
 {
@@ -39,7 +28,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CCtrlResize m_resize;
+    // [show]
+    CCtrlResize m_resize; // 对话框成员
+    // [end]
     CSize m_smallest{0, 0};
 };
 
@@ -55,33 +46,42 @@ BOOL CResizableDlg::OnInitDialog()
     CRect window;
     GetWindowRect(&window);
     m_smallest = window.Size();
+    // [show]
+    // 左、上、宽、高各随增量的几分之几
     m_resize.InitDlg(this);
     m_resize.AddCtrl(IDC_RESIZER_LEFT, 0, 0, 0.5, 1);
     m_resize.AddCtrl(IDC_RESIZER_RIGHT, 0.5, 0, 0.5, 1);
     m_resize.AddCtrl(IDC_RESIZER_NOTE, 0, 1, 1, 0);
-    m_resize.AddCtrl(IDOK, 1, 1, 0, 0);
+    m_resize.AddCtrl(IDOK, 1, 1, 0, 0); // 跟随右下角
+    // [end]
     SetDlgItemText(IDC_RESIZER_LEFT, L"左边的一半\r\n\r\n宽度增量的一半归左边，一半归右边；高度增量两边都有。");
     SetDlgItemText(IDC_RESIZER_RIGHT, L"右边的一半\r\n\r\n向右移动半个增量，并伸展半个增量。");
-    CCtrlResize::RestoreWinPos(kSection, m_hWnd, TRUE);
+    // [show]
+    CCtrlResize::RestoreWinPos(kSection, m_hWnd, TRUE); // OnInitDialog 的最后
+    // [end]
     return TRUE;
 }
 
+// [show]
 void CResizableDlg::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
     m_resize.ResizeAllCtrl(cx, cy);
 }
+// [end]
 
 void CResizableDlg::OnGetMinMaxInfo(MINMAXINFO* info)
 {
     info->ptMinTrackSize = CPoint(m_smallest.cx, m_smallest.cy);
 }
 
+// [show]
 void CResizableDlg::OnDestroy()
 {
     CCtrlResize::SaveWinPos(kSection, m_hWnd, TRUE);
     CDialog::OnDestroy();
 }
+// [end]
 
 } // namespace
 

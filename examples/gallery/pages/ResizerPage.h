@@ -7,7 +7,6 @@ class CResizerPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CResizerPage();
 

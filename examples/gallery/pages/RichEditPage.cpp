@@ -5,22 +5,20 @@
 const wchar_t CRichEditPage::Description[] =
     L"带格式的文本：选中文字后单击按钮即可设置格式，部分带有的格式会扩展到整个选区。右键单击打开编辑菜单。";
 
-const wchar_t CRichEditPage::Code[] = LR"(#include <AutoRichEditCtrl.h>
-
-CAutoRichEditCtrl m_text;                    // 对话框成员，构造时给出菜单：
-CNoteDlg::CNoteDlg() : m_text(ZNKT_EDIT_MENU) {}
-DDX_Control(exchange, IDC_TEXT, m_text);     // 模板中的 RichEdit20W 控件
-
-m_text.SetRTF(L"{\\rtf1 一般，{\\b 粗体}}"); // 汉字可以直接书写
-m_text.ToggleBold();                         // 选区的格式
-m_text.SetFontSize(14);                      // 磅
-m_text.AlignCenter();
-m_text.ToggleBullet();
-m_text.SetColor();                           // 请用户选择颜色
-Save(m_text.GetRTF());)";
-
 namespace
 {
+
+// [show]
+typedef void (CAutoRichEditCtrl::*Format)();
+
+// 选区的格式，按钮的顺序
+const Format kFormats[] = {
+    &CAutoRichEditCtrl::ToggleBold,   &CAutoRichEditCtrl::ToggleItalic, &CAutoRichEditCtrl::ToggleUnderline,
+    &CAutoRichEditCtrl::SetColor, // 请用户选择颜色
+    &CAutoRichEditCtrl::AlignLeft,    &CAutoRichEditCtrl::AlignCenter,  &CAutoRichEditCtrl::AlignRight,
+    &CAutoRichEditCtrl::ToggleBullet,
+};
+// [end]
 
 const int kLargePoints = 16;
 const int kNormalPoints = 11;
@@ -35,55 +33,37 @@ const wchar_t kText[] = L"{\\rtf1\\ansi{\\fonttbl{\\f0\\fnil\\fcharset134 SimSun
 } // namespace
 
 BEGIN_MESSAGE_MAP(CRichEditPage, CGalleryPage)
-    ON_COMMAND_RANGE(IDC_RICH_EDIT_BOLD, IDC_RICH_EDIT_COLOR, &CRichEditPage::OnFormat)
+    ON_COMMAND_RANGE(IDC_RICH_EDIT_BOLD, IDC_RICH_EDIT_SIZE, &CRichEditPage::OnFormat)
 END_MESSAGE_MAP()
 
+// [show]
+// 右键菜单在构造时给出
 CRichEditPage::CRichEditPage() : CGalleryPage(IDD_RICH_EDIT_PAGE), m_text(ZNKT_EDIT_MENU) {}
+// [end]
 
 void CRichEditPage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_RICH_EDIT_TEXT, m_text);
+    // [show]
+    DDX_Control(exchange, IDC_RICH_EDIT_TEXT, m_text); // 模板中的 RichEdit20W
+    // [end]
 }
 
 BOOL CRichEditPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
-    m_text.SetRTF(kText);
+    m_resize.AddCtrl(IDC_RICH_EDIT_TEXT, 0, 0, 1, 1);
+    // [show]
+    m_text.SetRTF(kText); // L"{\\rtf1 一般，{\\b 粗体}}"：汉字可以直接书写
+    // [end]
     return TRUE;
 }
 
 void CRichEditPage::OnFormat(UINT id)
 {
-    switch (id)
-    {
-    case IDC_RICH_EDIT_BOLD:
-        m_text.ToggleBold();
-        break;
-    case IDC_RICH_EDIT_ITALIC:
-        m_text.ToggleItalic();
-        break;
-    case IDC_RICH_EDIT_UNDERLINE:
-        m_text.ToggleUnderline();
-        break;
-    case IDC_RICH_EDIT_LEFT:
-        m_text.AlignLeft();
-        break;
-    case IDC_RICH_EDIT_CENTER:
-        m_text.AlignCenter();
-        break;
-    case IDC_RICH_EDIT_RIGHT:
-        m_text.AlignRight();
-        break;
-    case IDC_RICH_EDIT_BULLET:
-        m_text.ToggleBullet();
-        break;
-    case IDC_RICH_EDIT_SIZE:
+    if (id == IDC_RICH_EDIT_SIZE)
         m_text.SetFontSize(m_text.GetFontSize() == kLargePoints ? kNormalPoints : kLargePoints);
-        break;
-    case IDC_RICH_EDIT_COLOR:
-        m_text.SetColor();
-        break;
-    }
+    else
+        (m_text.*kFormats[id - IDC_RICH_EDIT_BOLD])();
     m_text.SetFocus(); // the selection is seen while the text has the focus
 }

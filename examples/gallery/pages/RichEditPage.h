@@ -1,15 +1,16 @@
-// The rich edit: RTF, formats of the selection, the edit menu on the right mouse button.
+﻿// The rich edit: RTF, formats of the selection, the edit menu on the right mouse button.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <AutoRichEditCtrl.h>
+// [end]
 
 class CRichEditPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CRichEditPage();
 
@@ -22,5 +23,7 @@ protected:
     afx_msg void OnFormat(UINT id);
 
 private:
-    CAutoRichEditCtrl m_text;
+    // [show]
+    CAutoRichEditCtrl m_text; // 对话框成员
+    // [end]
 };

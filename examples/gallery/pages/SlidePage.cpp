@@ -5,17 +5,6 @@
 const wchar_t CSlidePage::Description[] =
     L"预览幻灯片（.sld）和图像文件：幻灯片保持比例，图像填满带凹陷边框的控件，读不出的幻灯片说明原因。";
 
-const wchar_t CSlidePage::Code[] = LR"(#include <SlideCtrl.h>
-
-CSlideCtrl m_preview;                           // 对话框成员
-DDX_Control(exchange, IDC_PREVIEW, m_preview);  // 模板中的自绘按钮
-
-m_preview.SetBkColor(RGB(255, 255, 255));       // 背景色
-m_preview.SetFileName(L"支架.sld");             // 幻灯片
-m_preview.SetFileName(L"法兰.png");             // BMP、GIF、JPEG、PNG、TIFF
-m_preview.SetFileName(L"");                     // 不显示
-// ON_BN_CLICKED(IDC_PREVIEW, &CMyDlg::OnPick)  // 单击与普通按钮相同)";
-
 namespace
 {
 
@@ -35,20 +24,24 @@ CSlidePage::CSlidePage() : CGalleryPage(IDD_SLIDE_PAGE) {}
 void CSlidePage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_SLIDE_SLIDE, m_slide);
+    // [show]
+    DDX_Control(exchange, IDC_SLIDE_SLIDE, m_slide); // 模板中的自绘按钮
     DDX_Control(exchange, IDC_SLIDE_IMAGE, m_image);
     DDX_Control(exchange, IDC_SLIDE_EMPTY, m_empty);
     DDX_Control(exchange, IDC_SLIDE_DAMAGED, m_damaged);
+    // [end]
 }
 
 BOOL CSlidePage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
-    m_slide.SetFileName(Sample(L"bracket.sld"));
-    m_image.SetBkColor(RGB(255, 255, 255));
-    m_image.SetFileName(Sample(L"flange.png"));
-    m_empty.SetFileName(L"");
+    // [show]
+    m_slide.SetFileName(Sample(L"bracket.sld")); // 幻灯片，保持比例
+    m_image.SetBkColor(RGB(255, 255, 255));      // 背景色
+    m_image.SetFileName(Sample(L"flange.png"));  // BMP、GIF、JPEG、PNG、TIFF
+    m_empty.SetFileName(L"");                    // 不显示
     m_damaged.SetBkColor(RGB(255, 255, 255));
     m_damaged.SetFileName(Sample(L"cut-off.sld"));
+    // [end]
     return TRUE;
 }

@@ -3,13 +3,14 @@
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <SlideCtrl.h>
+// [end]
 
 class CSlidePage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CSlidePage();
 
@@ -18,8 +19,10 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
+    // [show]
     CSlideCtrl m_slide;
     CSlideCtrl m_image;
     CSlideCtrl m_empty;
     CSlideCtrl m_damaged;
+    // [end]
 };

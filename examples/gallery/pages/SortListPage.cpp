@@ -5,18 +5,6 @@
 const wchar_t CSortListPage::Description[] =
     L"单击列标题即可排序：文字、数字各按其值，标题中的箭头表示方向。颜色列显示色块，单击的单元格突出显示。";
 
-const wchar_t CSortListPage::Code[] = LR"(#include <ZNSortListCtrl.h>
-
-CZNSortListCtrl m_layers;                       // 对话框成员
-DDX_Control(exchange, IDC_LAYERS, m_layers);    // 模板中的报表列表
-
-m_layers.InsertColumn(0, L"图层", LVCFMT_LEFT, 150);
-m_layers.InsertColumn(1, L"对象数", LVCFMT_RIGHT, 90);
-m_layers.InsertColumn(2, L"颜色", LVCFMT_LEFT, 110);
-m_layers.SetIsColorColumn(2, 1);                // 颜色名称带色块
-m_layers.SetCellHighlight(true, -1, -1);        // 突出显示单击的单元格
-m_layers.SortColumn(1, 1, 0);                   // 按数字降序)";
-
 namespace
 {
 
@@ -50,23 +38,28 @@ CSortListPage::CSortListPage() : CGalleryPage(IDD_SORT_LIST_PAGE) {}
 void CSortListPage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_SORT_LIST, m_layers);
+    // [show]
+    DDX_Control(exchange, IDC_SORT_LIST, m_layers); // 模板中的报表列表
+    // [end]
 }
 
 BOOL CSortListPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
-    m_layers.InsertColumn(COLUMN_LAYER, L"图层", LVCFMT_LEFT, 150);
-    m_layers.InsertColumn(COLUMN_OBJECTS, L"对象数", LVCFMT_RIGHT, 90);
-    m_layers.InsertColumn(COLUMN_COLOUR, L"颜色", LVCFMT_LEFT, 110);
+    m_resize.AddCtrl(IDC_SORT_LIST, 0, 0, 1, 1);
+    // [show]
+    m_layers.InsertColumn(COLUMN_LAYER, L"图层", LVCFMT_LEFT, 220);
+    m_layers.InsertColumn(COLUMN_OBJECTS, L"对象数", LVCFMT_RIGHT, 120);
+    m_layers.InsertColumn(COLUMN_COLOUR, L"颜色", LVCFMT_LEFT, 200);
     for (const Layer& layer : kLayers)
     {
         const int row = m_layers.InsertItem(m_layers.GetItemCount(), layer.name);
         m_layers.SetItemText(row, COLUMN_OBJECTS, layer.objects);
         m_layers.SetItemText(row, COLUMN_COLOUR, layer.colour);
     }
-    m_layers.SetIsColorColumn(COLUMN_COLOUR, 1);
-    m_layers.SortColumn(COLUMN_OBJECTS, 1, 0);
-    m_layers.SetCellHighlight(true, 2, COLUMN_LAYER);
+    m_layers.SetIsColorColumn(COLUMN_COLOUR, 1);      // 颜色名称带色块
+    m_layers.SortColumn(COLUMN_OBJECTS, 1, 0);        // 按数字降序
+    m_layers.SetCellHighlight(true, 2, COLUMN_LAYER); // 突出显示单击的单元格
+    // [end]
     return TRUE;
 }

@@ -1,15 +1,16 @@
-// The sortable list: texts, numbers and colours.
+﻿// The sortable list: texts, numbers and colours.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <ZNSortListCtrl.h>
+// [end]
 
 class CSortListPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CSortListPage();
 
@@ -18,5 +19,7 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
-    CZNSortListCtrl m_layers;
+    // [show]
+    CZNSortListCtrl m_layers; // 对话框成员
+    // [end]
 };

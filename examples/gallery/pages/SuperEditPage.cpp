@@ -6,23 +6,6 @@ const wchar_t CSuperEditPage::Description[] =
     L"只接受指定字符的编辑框，随输入校验：有效为白色，未完成或超出类型范围为黄色，错误为红色。"
     L"有效性改变时通知父窗口。";
 
-const wchar_t CSuperEditPage::Code[] = LR"(#include <SuperEdit.h>
-
-CSuperEdit m_width;                             // 对话框成员
-DDX_Control(exchange, IDC_WIDTH, m_width);      // 取代模板中的编辑框
-
-// 默认值、最小值、最大值；不允许为空，悬停时提示范围
-m_width.SetInputFloat(2.5, 0, 100, FALSE, TRUE, NULL);
-// 或者只限定字符和长度
-m_code.SetValidCharSet(VVE_HEX, NULL);
-m_code.SetTextLenMinMax(1, 8);
-
-if (m_width.IsValid())
-    width = m_width.GetWindowValue();
-
-// 有效性改变时：wParam 是 const VVENotice*，lParam 为 1 有效、0 无效
-ON_MESSAGE(WM_VVE_VALIDITY, &CMyDialog::OnValidity))";
-
 namespace
 {
 
@@ -49,7 +32,9 @@ const wchar_t* RangeText(const CSuperEdit& edit)
 
 BEGIN_MESSAGE_MAP(CSuperEditPage, CGalleryPage)
     ON_CONTROL_RANGE(EN_CHANGE, IDC_SUPER_EDIT_TEXT, IDC_SUPER_EDIT_TEXT + LIMITS, &CSuperEditPage::OnEditChange)
-    ON_MESSAGE(WM_VVE_VALIDITY, &CSuperEditPage::OnValidity)
+    // [show]
+    ON_MESSAGE(WM_VVE_VALIDITY, &CSuperEditPage::OnValidity) // 有效性改变时
+    // [end]
 END_MESSAGE_MAP()
 
 CSuperEditPage::CSuperEditPage() : CGalleryPage(IDD_SUPER_EDIT_PAGE) {}
@@ -57,16 +42,23 @@ CSuperEditPage::CSuperEditPage() : CGalleryPage(IDD_SUPER_EDIT_PAGE) {}
 void CSuperEditPage::DoDataExchange(CDataExchange* exchange)
 {
     CGalleryPage::DoDataExchange(exchange);
+    // [show]
+    // 取代模板中的编辑框
     for (int row = 0; row < ROWS; ++row)
         DDX_Control(exchange, IDC_SUPER_EDIT_TEXT + row, m_edits[row]);
+    // [end]
 }
 
 BOOL CSuperEditPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
+    // [show]
+    // 每行一种字符集
     for (int row = 0; row < SETS; ++row)
         m_edits[row].SetValidCharSet(static_cast<VVEset>(row), kCustomCharacters);
+    // 默认值、最小值、最大值；不允许为空，悬停时提示范围
     m_edits[LIMITS].SetInputFloat(2.5, 0, 100, FALSE, TRUE, NULL);
+    // [end]
     for (int row = 0; row < ROWS; ++row)
     {
         ShowVerdict(row); // of the empty text
@@ -80,6 +72,7 @@ void CSuperEditPage::OnEditChange(UINT id)
     ShowVerdict(id - IDC_SUPER_EDIT_TEXT);
 }
 
+// [show]
 LRESULT CSuperEditPage::OnValidity(WPARAM wParam, LPARAM isValid)
 {
     const VVENotice& notice = *reinterpret_cast<const VVENotice*>(wParam);
@@ -88,6 +81,7 @@ LRESULT CSuperEditPage::OnValidity(WPARAM wParam, LPARAM isValid)
     SetDlgItemText(notice.controlId - IDC_SUPER_EDIT_TEXT + IDC_SUPER_EDIT_NOTICE, text);
     return 0;
 }
+// [end]
 
 void CSuperEditPage::ShowVerdict(int row)
 {

@@ -1,15 +1,16 @@
-// The validating edit with each of its character sets, and once with limits.
+﻿// The validating edit with each of its character sets, and once with limits.
 #pragma once
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <SuperEdit.h>
+// [end]
 
 class CSuperEditPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CSuperEditPage();
 
@@ -32,5 +33,7 @@ private:
 
     void ShowVerdict(int row);
 
-    CSuperEdit m_edits[ROWS];
+    // [show]
+    CSuperEdit m_edits[ROWS]; // 对话框成员
+    // [end]
 };

@@ -3,13 +3,14 @@
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <ToolTipXTButton.h>
+// [end]
 
 class CTipButtonPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CTipButtonPage();
 
@@ -18,8 +19,10 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
+    // [show]
     CToolTipXTButton m_left;
     CToolTipXTButton m_right;
     CToolTipXTButton m_above;
     CToolTipXTButton m_below;
+    // [end]
 };

@@ -2,43 +2,34 @@
 
 #include "../GalleryIds.h"
 
+// [show]
 #include <MFCUtils.h>
+// [end]
 
 const wchar_t CTreeCommandsPage::Description[] =
     L"管理命名条目的对话框所需的一切：条目树，以及组合按钮上的新建、复制新建、编辑、重命名和删除。";
 
-const wchar_t CTreeCommandsPage::Code[] = LR"(#include <ComboButton.h>
-#include <ComboButtonIMPItem.h>
-#include <MFCCommonTree.h>
-
-CMFCCommonTree m_tree;                          // 对话框成员
-CComboButton m_button;
-MFCUtils::CComboButtonIMPItem m_new, m_delete;  // 构造：m_new(this, eNew, 0)
-
-m_button.AddItem(&m_new);                       // 第一项为默认命令
-m_button.AddItem(&m_delete);
-
-ON_MESSAGE(UM_TREE_NEW, &CMyDlg::OnNew)
-ON_MESSAGE(UM_TREE_DEL, &CMyDlg::OnDelete)
-const HTREEITEM item = MFCUtils::FindTreeItem(&m_tree, L"样式 1", NULL);)";
-
 typedef MFCUtils::CComboButtonIMPItem CCommand;
 
 BEGIN_MESSAGE_MAP(CTreeCommandsPage, CGalleryPage)
+    // [show]
     ON_MESSAGE(UM_TREE_NEW, &CTreeCommandsPage::OnNew)
     ON_MESSAGE(UM_TREE_COPYFROM, &CTreeCommandsPage::OnCopyFrom)
     ON_MESSAGE(UM_TREE_EDIT, &CTreeCommandsPage::OnEdit)
     ON_MESSAGE(UM_TREE_RENAME, &CTreeCommandsPage::OnRename)
     ON_MESSAGE(UM_TREE_DEL, &CTreeCommandsPage::OnDelete)
+    // [end]
     ON_NOTIFY(TVN_ENDLABELEDIT, IDC_TREE_COMMANDS_TREE, &CTreeCommandsPage::OnEndRename)
 END_MESSAGE_MAP()
 
+// [show]
 CTreeCommandsPage::CTreeCommandsPage()
     : CGalleryPage(IDD_TREE_COMMANDS_PAGE), m_noticeId(IDC_TREE_COMMANDS_NOTICE), m_new(this, CCommand::eNew, 0),
       m_copyFrom(this, CCommand::eCopyFrom, 0), m_edit(this, CCommand::eEdit, 0), m_rename(this, CCommand::eRename, 0),
       m_delete(this, CCommand::eDel, 0)
 {
 }
+// [end]
 
 void CTreeCommandsPage::DoDataExchange(CDataExchange* exchange)
 {
@@ -50,8 +41,14 @@ void CTreeCommandsPage::DoDataExchange(CDataExchange* exchange)
 BOOL CTreeCommandsPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
+    // [show]
+    // 第一项为默认命令
     for (CComboButtonItem* item : {&m_new, &m_copyFrom, &m_edit, &m_rename, &m_delete})
         m_button.AddItem(item);
+    // [end]
+    m_resize.AddCtrl(IDC_TREE_COMMANDS_TREE, 0, 0, 1, 1);
+    m_resize.AddCtrl(IDC_TREE_COMMANDS_BUTTON, 1, 0, 0, 0);
+    m_resize.AddCtrl(IDC_TREE_COMMANDS_NOTICE, 1, 0, 0, 0);
     m_button.SetComboButtonStyle(CBTS_DEFAULT | CBTS_IMAGEANDTEXT);
     for (const wchar_t* name : {L"标准", L"机械", L"建筑"})
         Add(name);
@@ -60,11 +57,14 @@ BOOL CTreeCommandsPage::OnInitDialog()
 
 LRESULT CTreeCommandsPage::OnNew(WPARAM, LPARAM)
 {
-    // The first free name.
-    CString name;
-    for (int number = 1; name.IsEmpty() || MFCUtils::FindTreeItem(&m_tree, name, NULL) != NULL; ++number)
-        name.Format(L"样式 %d", number);
+    // [show]
+    CString name; // 第一个未用的名称
+    int number = 0;
+    do
+        name.Format(L"样式 %d", ++number);
+    while (MFCUtils::FindTreeItem(&m_tree, name, NULL) != NULL);
     Add(name);
+    // [end]
     return 0;
 }
 

@@ -3,15 +3,16 @@
 
 #include "../GalleryPage.h"
 
+// [show]
 #include <ComboButton.h>
 #include <ComboButtonIMPItem.h>
 #include <MFCCommonTree.h>
+// [end]
 
 class CTreeCommandsPage : public CGalleryPage
 {
 public:
     static const wchar_t Description[];
-    static const wchar_t Code[];
 
     CTreeCommandsPage();
 
@@ -33,6 +34,7 @@ private:
     void Tell(const CString& text) { SetDlgItemText(m_noticeId, text); }
 
     const int m_noticeId;
+    // [show]
     CMFCCommonTree m_tree;
     CComboButton m_button;
     MFCUtils::CComboButtonIMPItem m_new;
@@ -40,4 +42,5 @@ private:
     MFCUtils::CComboButtonIMPItem m_edit;
     MFCUtils::CComboButtonIMPItem m_rename;
     MFCUtils::CComboButtonIMPItem m_delete;
+    // [end]
 };
