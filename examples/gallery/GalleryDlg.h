@@ -5,6 +5,7 @@
 // and code, with Shift backwards. Esc empties the search, then closes.
 #pragma once
 
+#include "GalleryPage.h"
 #include "GalleryPages.h"
 
 #include <CtrlResize.h>

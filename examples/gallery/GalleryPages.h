@@ -1,9 +1,11 @@
 // The table of all pages.
 #pragma once
 
-#include "GalleryPage.h"
+#include <afxwin.h>
 
 #include <vector>
+
+class CGalleryPage;
 
 struct GalleryEntry
 {

@@ -5,6 +5,7 @@
 #include "GdiCount.h"
 #include "LoadedModule.h"
 #include "TraceCapture.h"
+#include "WindowCount.h"
 #include "app/ZNKTControlsApp.h"
 #include "arx/rx/ApiVersion.h"
 #include "msg/HostFrame.h"
@@ -31,26 +32,6 @@ protected:
     ModuleEntry() { arxhost::Reset(); }
     ~ModuleEntry() override { arxhost::Reset(); }
 };
-
-BOOL CALLBACK CountWindow(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK CountWithChildren(HWND window, LPARAM count)
-{
-    CountWindow(window, count);
-    ::EnumChildWindows(window, &CountWindow, count);
-    return TRUE;
-}
-
-int CountWindows()
-{
-    int count = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), &CountWithChildren, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
 
 BOOL CALLBACK FindList(HWND window, LPARAM found)
 {

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "DialogTemplate.h"
+#include "FileAside.h"
 #include "WindowOrder.h"
 #include "dialog/CtrlResize.h"
 
@@ -276,22 +277,15 @@ TEST(CtrlResizeReentered, AControlThatIsMovedMayEndTheDialogAndTheResizer)
 namespace
 {
 
-// Puts the user's own file aside while a test lives.
 class WindowPosFile : public testing::Test
 {
 protected:
-    WindowPosFile() : path(ZNKTPub::GetCurUserWayfarerPath() + L"\\WindowPos.ini"), m_aside(path + L".aside")
+    WindowPosFile() : path(ZNKTPub::GetCurUserWayfarerPath() + L"\\WindowPos.ini"), m_aside(path)
     {
-        ::MoveFileExW(path, m_aside, MOVEFILE_REPLACE_EXISTING);
         window.Create(WC_STATIC, L"", WS_POPUP, CRect(100, 120, 400, 320), NULL, 0);
     }
 
-    ~WindowPosFile() override
-    {
-        window.DestroyWindow();
-        ::DeleteFileW(path);
-        ::MoveFileExW(m_aside, path, MOVEFILE_REPLACE_EXISTING);
-    }
+    ~WindowPosFile() override { window.DestroyWindow(); }
 
     int Stored(const wchar_t* key, const wchar_t* section = kSection) const
     {
@@ -328,7 +322,7 @@ protected:
     CWnd window;
 
 private:
-    const CString m_aside;
+    const FileAside m_aside;
 };
 
 } // namespace

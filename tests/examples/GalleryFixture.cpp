@@ -1,10 +1,10 @@
 ﻿#include "GalleryFixture.h"
 
-#include "gallery/GalleryIds.h"
-
 #include "arx/ed/HostServices.h"
 
 #include <rxregsvc.h>
+
+#include <ZNKTPub.h>
 
 namespace
 {
@@ -12,7 +12,6 @@ namespace
 const wchar_t kControls[] = L"ZNKTControls.arx";
 const wchar_t kGallery[] = L"gallery.arx";
 const wchar_t kTitle[] = L"控件库";
-constexpr ULONGLONG kPatience = 5000; // milliseconds
 
 bool IsDialog(HWND window)
 {
@@ -41,7 +40,7 @@ private:
 };
 
 GalleryFixture::GalleryFixture()
-    : m_sink(new Sink(printed)),
+    : m_places(ZNKTPub::GetCurUserWayfarerPath() + L"\\WindowPos.ini"), m_sink(new Sink(printed)),
       m_loaded(acrxLoadModule(kControls, false, false) && acrxLoadModule(kGallery, false, false))
 {
     EXPECT_TRUE(m_loaded);
@@ -60,7 +59,7 @@ void GalleryFixture::Run(const wchar_t* line)
     Pump();
 }
 
-// As the button in the caption does; the dialog hears of it by a posted command.
+// As the button in the caption does.
 void GalleryFixture::CloseGallery()
 {
     ::SendMessageW(Window(), WM_CLOSE, 0, 0);
@@ -117,6 +116,14 @@ std::vector<std::wstring> GalleryFixture::PageTitles() const
     return titles;
 }
 
+std::vector<std::wstring> GalleryFixture::GroupTitles() const
+{
+    std::vector<std::wstring> titles;
+    for (HTREEITEM group = Tree().GetRootItem(); group != NULL; group = Tree().GetNextSiblingItem(group))
+        titles.push_back(Tree().GetItemText(group).GetString());
+    return titles;
+}
+
 std::wstring GalleryFixture::SelectedTitle() const
 {
     const HTREEITEM item = Tree().GetSelectedItem();
@@ -135,22 +142,6 @@ void GalleryFixture::Search(const wchar_t* text)
     Pump();
 }
 
-bool GalleryFixture::WaitThroughFramework(const std::function<bool()>& condition)
-{
-    const ULONGLONG end = ::GetTickCount64() + kPatience;
-    while (!condition())
-    {
-        if (::GetTickCount64() > end)
-            return false;
-        constexpr DWORD slice = 10;
-        ::MsgWaitForMultipleObjects(0, NULL, FALSE, slice, QS_ALLINPUT);
-        MSG message;
-        while (::PeekMessageW(&message, NULL, 0, 0, PM_NOREMOVE) && AfxGetThread()->PumpMessage())
-            ;
-    }
-    return true;
-}
-
 CTreeCtrl& GalleryFixture::Tree() const
 {
     return *static_cast<CTreeCtrl*>(CWnd::FromHandle(Control(IDC_GALLERY_TREE)));
@@ -161,6 +152,31 @@ std::wstring TextOfWindow(HWND window)
     std::wstring text(static_cast<size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<size_t>(::GetWindowTextW(window, &text[0], static_cast<int>(text.size()))));
     return text;
+}
+
+std::wstring ClassOfWindow(HWND window)
+{
+    wchar_t name[64] = L"";
+    ::GetClassNameW(window, name, 64);
+    return name;
+}
+
+CRect RectOfWindow(HWND window)
+{
+    CRect rect;
+    ::GetWindowRect(window, &rect);
+    return rect;
+}
+
+std::vector<HWND> VisibleChildren(HWND parent)
+{
+    std::vector<HWND> children;
+    for (HWND child = ::GetWindow(parent, GW_CHILD); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        if (::IsWindowVisible(child))
+            children.push_back(child);
+    }
+    return children;
 }
 
 std::string Utf8(const std::wstring& text)

@@ -1,14 +1,21 @@
 // The gallery's module in the host, and its window as a user sees it.
 #pragma once
 
+#include "FileAside.h"
 #include "HostFixture.h"
+
+#include "gallery/GalleryIds.h"
 
 #include <afxcmn.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
+
+std::wstring TextOfWindow(HWND window);
+std::wstring ClassOfWindow(HWND window);
+CRect RectOfWindow(HWND window); // screen coordinates
+std::vector<HWND> VisibleChildren(HWND parent);
 
 class GalleryFixture : public HostFixture
 {
@@ -31,12 +38,12 @@ protected:
     // The tree, pages without groups, in the order shown.
     std::vector<HTREEITEM> PageItems() const;
     std::vector<std::wstring> PageTitles() const;
+    std::vector<std::wstring> GroupTitles() const;
     std::wstring SelectedTitle() const;
     void SelectPage(HTREEITEM item);
     void Search(const wchar_t* text);
 
-    // Waits while messages are dispatched the framework's way, keys to dialogs included.
-    static bool WaitThroughFramework(const std::function<bool()>& condition);
+    std::wstring Code() const { return TextOfWindow(Control(IDC_GALLERY_CODE)); }
 
     std::wstring printed; // on the command line
 
@@ -44,11 +51,10 @@ private:
     class Sink;
     CTreeCtrl& Tree() const;
 
+    const FileAside m_places; // of windows, where the gallery keeps its own
     std::unique_ptr<Sink> m_sink;
     bool m_loaded;
 };
-
-std::wstring TextOfWindow(HWND window);
 
 // For messages of failed tests.
 std::string Utf8(const std::wstring& text);

@@ -1,6 +1,6 @@
-﻿// What the gallery's search finds, and where its controls lie.
+﻿// What the gallery's search finds, and the code that it cuts out of sources.
+#include "gallery/GalleryCode.h"
 #include "gallery/GalleryFilter.h"
-#include "gallery/GalleryLayout.h"
 #include "gallery/GalleryPages.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,12 @@
 namespace
 {
 
-const GalleryEntry kPage = {L"sort-list", L"列表", L"可排序列表", L"单击 Column 标题即可排序", L"int code;", nullptr};
+const GalleryEntry kPage = {L"sort-list",
+                            L"列表",
+                            L"可排序列表",
+                            L"单击 Column 标题即可排序",
+                            L"#include <ZNSortListCtrl.h>\nm_list.SortColumn(1);",
+                            nullptr};
 
 struct SearchRow
 {
@@ -37,16 +42,44 @@ INSTANTIATE_TEST_SUITE_P(Words, GallerySearch,
                                          SearchRow{"two words in any order", L"标题 sort", true},
                                          SearchRow{"two words parted by a wide blank", L"标题\x3000sort", true},
                                          SearchRow{"one word that is missing", L"sort 树", false},
-                                         SearchRow{"the code", L"int", false},
+                                         SearchRow{"a header", L"ZNSortListCtrl.h", true},
+                                         SearchRow{"a function of the code", L"sortcol", true},
+                                         SearchRow{"the middle of a name in the code", L"_list", false},
+                                         SearchRow{"the end of a name in the code", L"ListCtrl.h", false},
+                                         SearchRow{"a word of the text and one of the code", L"标题 m_list", true},
                                          SearchRow{"the end of one text and the start of the next", L"表列", false}));
 
-TEST(GalleryLayout, ControlStaysMovesAndGrowsAsItsAnchorSays)
+namespace
 {
-    const CRect place(10, 20, 110, 220);
-    const CSize growth(30, 50);
-    EXPECT_EQ(place, AnchoredRect(place, GALLERY_STAY, growth));
-    EXPECT_EQ(CRect(10, 20, 140, 220), AnchoredRect(place, GALLERY_GROW_WIDTH, growth));
-    EXPECT_EQ(CRect(10, 20, 110, 270), AnchoredRect(place, GALLERY_GROW_HEIGHT, growth));
-    EXPECT_EQ(CRect(10, 70, 110, 270), AnchoredRect(place, GALLERY_MOVE_DOWN, growth));
-    EXPECT_EQ(CRect(10, 70, 140, 270), AnchoredRect(place, GALLERY_MOVE_DOWN | GALLERY_GROW_WIDTH, growth));
+
+struct CodeRow
+{
+    const char* what;
+    const wchar_t* source;
+    const wchar_t* shown;
+};
+
+class GalleryCode : public testing::TestWithParam<CodeRow>
+{
+};
+
+} // namespace
+
+TEST_P(GalleryCode, IsCutOutOfTheSource)
+{
+    EXPECT_STREQ(GetParam().shown, ShownLines(GetParam().source)) << GetParam().what;
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Sources, GalleryCode,
+    testing::Values(CodeRow{"nothing", L"", L""}, CodeRow{"no marks", L"int a;\nint b;\n", L""},
+                    CodeRow{"one part", L"a\n// [show]\nb;\nc;\n// [end]\nd\n", L"b;\nc;\n"},
+                    CodeRow{"two parts", L"// [show]\na;\n// [end]\nb;\n// [show]\nc;\n// [end]\n", L"a;\n\nc;\n"},
+                    CodeRow{"indent that all lines have", L"  // [show]\n  if (a)\n    b;\n  // [end]\n",
+                            L"if (a)\n  b;\n"},
+                    CodeRow{"empty line in a part", L"  // [show]\n  a;\n\n  b;\n  // [end]\n", L"a;\n\nb;\n"},
+                    CodeRow{"each part by its own indent",
+                            L"// [show]\na;\n// [end]\n    // [show]\n    b;\n    // [end]\n", L"a;\n\nb;\n"},
+                    CodeRow{"line ends of both kinds", L"// [show]\r\na;\r\n// [end]\r\n", L"a;\n"},
+                    CodeRow{"the mark in other words", L"// about [show]\na;\n// [end]\n", L""},
+                    CodeRow{"no end", L"// [show]\na;\n", L""}));

@@ -5,13 +5,16 @@
 #include <MFCUtils.h>
 
 const wchar_t CCheckTreePage::Description[] =
-    L"勾选一项即勾选其全部子项，上级显示全选、部分或未选。红色标志的项不可勾选，固定的项不随上级改变。";
+    L"勾选一项即勾选其全部子项，上级显示全选、部分或未选。红色标志的项不可勾"
+    L"选，固定的项不随上级改变。";
 
 BEGIN_MESSAGE_MAP(CCheckTreePage, CGalleryPage)
     // [show]
-    ON_NOTIFY(STATETREEN_CHECKCHANGED, IDC_CHECK_TREE, &CCheckTreePage::OnCheckChanged)
+    ON_NOTIFY(STATETREEN_CHECKCHANGED, IDC_CHECK_TREE,
+              &CCheckTreePage::OnCheckChanged)
     // [end]
-    ON_NOTIFY(STATETREEN_CLICK, IDC_CHECK_TREE, &CCheckTreePage::OnTreeClicked)
+    ON_NOTIFY(STATETREEN_CLICK, IDC_CHECK_TREE,
+              &CCheckTreePage::OnTreeClicked)
 END_MESSAGE_MAP()
 
 CCheckTreePage::CCheckTreePage() : CGalleryPage(IDD_CHECK_TREE_PAGE) {}
@@ -28,10 +31,13 @@ void CCheckTreePage::DoDataExchange(CDataExchange* exchange)
 BOOL CCheckTreePage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
-    const HTREEITEM layers = AddBranch(L"图层", {L"轮廓线", L"中心线", L"标注", L"图框"});
-    const HTREEITEM blocks = AddBranch(L"图块", {L"M12 螺栓", L"轴承 6204", L"标题栏"});
+    const HTREEITEM layers =
+        AddBranch(L"图层", {L"轮廓线", L"中心线", L"标注", L"图框"});
+    const HTREEITEM blocks =
+        AddBranch(L"图块", {L"M12 螺栓", L"轴承 6204", L"标题栏"});
     const HTREEITEM frame = MFCUtils::FindTreeItem(&m_tree, L"图框", layers);
-    const HTREEITEM titleBlock = MFCUtils::FindTreeItem(&m_tree, L"标题栏", blocks);
+    const HTREEITEM titleBlock =
+        MFCUtils::FindTreeItem(&m_tree, L"标题栏", blocks);
     // [show]
     m_tree.SetCheck(layers, 1);                       // 连同全部子项
     m_tree.EnableCheck(frame, 0);                     // 不可勾选
@@ -50,8 +56,10 @@ BOOL CCheckTreePage::OnInitDialog()
 // [show]
 void CCheckTreePage::OnCheckChanged(NMHDR* header, LRESULT* result)
 {
-    const NMSTATETREECHECK& change = *reinterpret_cast<const NMSTATETREECHECK*>(header);
-    Log((change.bCheck ? L"勾选：" : L"取消：") + m_tree.GetItemText(change.hItem));
+    const NMSTATETREECHECK& change =
+        *reinterpret_cast<const NMSTATETREECHECK*>(header);
+    Log((change.bCheck ? L"勾选：" : L"取消：") +
+        m_tree.GetItemText(change.hItem));
     *result = 0;
 }
 // [end]
@@ -62,7 +70,8 @@ void CCheckTreePage::OnTreeClicked(NMHDR*, LRESULT* result)
     *result = 0;
 }
 
-HTREEITEM CCheckTreePage::AddBranch(const wchar_t* name, std::initializer_list<const wchar_t*> leaves)
+HTREEITEM CCheckTreePage::AddBranch(
+    const wchar_t* name, std::initializer_list<const wchar_t*> leaves)
 {
     const HTREEITEM branch = m_tree.InsertItem(name);
     for (const wchar_t* leaf : leaves)

@@ -1,4 +1,5 @@
-﻿// The check tree: layers and blocks, some of them disabled or fixed, and what the tree tells its parent.
+﻿// The check tree: layers and blocks, some of them disabled or fixed, and what
+// the tree tells its parent.
 #pragma once
 
 #include "../GalleryPage.h"
@@ -24,7 +25,8 @@ protected:
     afx_msg void OnTreeClicked(NMHDR* header, LRESULT* result);
 
 private:
-    HTREEITEM AddBranch(const wchar_t* name, std::initializer_list<const wchar_t*> leaves);
+    HTREEITEM AddBranch(const wchar_t* name,
+                        std::initializer_list<const wchar_t*> leaves);
     void Log(const CString& line);
 
     // [show]

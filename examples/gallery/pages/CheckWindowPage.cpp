@@ -3,7 +3,8 @@
 #include "../GalleryIds.h"
 
 const wchar_t CCheckWindowPage::Description[] =
-    L"鼠标停在图形上时，旁边弹出检查信息。窗口在自己的线程中运行，主线程只投递文字。可拖动、缩放、锁定位置。";
+    L"鼠标停在图形上时，旁边弹出检查信息。窗口在自己的线程中运行，主线程只投"
+    L"递文字。可拖动、缩放、锁定位置。";
 
 namespace
 {
@@ -24,9 +25,27 @@ struct Shape
 };
 
 const Shape kShapes[] = {
-    {RECTANGLE, 0.06, 0.2, 0.3, 0.75, RGB(70, 110, 180), {L"类型: 矩形", L"图层: 墙体", L"线宽 0.35，应为 0.50"}},
-    {CIRCLE, 0.38, 0.2, 0.6, 0.75, RGB(190, 70, 60), {L"类型: 圆", L"图层: 轴线", L"颜色应为 ByLayer"}},
-    {TRIANGLE, 0.68, 0.2, 0.92, 0.75, RGB(70, 150, 90), {L"类型: 多段线", L"图层: 标注", L"未发现问题"}},
+    {RECTANGLE,
+     0.06,
+     0.2,
+     0.3,
+     0.75,
+     RGB(70, 110, 180),
+     {L"类型: 矩形", L"图层: 墙体", L"线宽 0.35，应为 0.50"}},
+    {CIRCLE,
+     0.38,
+     0.2,
+     0.6,
+     0.75,
+     RGB(190, 70, 60),
+     {L"类型: 圆", L"图层: 轴线", L"颜色应为 ByLayer"}},
+    {TRIANGLE,
+     0.68,
+     0.2,
+     0.92,
+     0.75,
+     RGB(70, 150, 90),
+     {L"类型: 多段线", L"图层: 标注", L"未发现问题"}},
 };
 
 int Share(double share, int whole)
@@ -36,8 +55,9 @@ int Share(double share, int whole)
 
 void Draw(CDC& dc, Kind kind, const CRect& place)
 {
-    const POINT corners[] = {
-        {place.CenterPoint().x, place.top}, {place.right, place.bottom}, {place.left, place.bottom}};
+    const POINT corners[] = {{place.CenterPoint().x, place.top},
+                             {place.right, place.bottom},
+                             {place.left, place.bottom}};
     if (kind == RECTANGLE)
         dc.Rectangle(&place);
     else if (kind == CIRCLE)
@@ -56,7 +76,8 @@ END_MESSAGE_MAP()
 // [show]
 void CCheckedDrawing::Start()
 {
-    m_window = static_cast<CCheckSpecMsgThread*>(AfxBeginThread(RUNTIME_CLASS(CCheckSpecMsgThread)));
+    m_window = static_cast<CCheckSpecMsgThread*>(
+        AfxBeginThread(RUNTIME_CLASS(CCheckSpecMsgThread)));
 }
 
 void CCheckedDrawing::End()
@@ -67,12 +88,14 @@ void CCheckedDrawing::End()
 }
 // [end]
 
-// The texts are posted again while the window is hidden, so that it comes up wherever on a shape the mouse rests.
+// The texts are posted again while the window is hidden, so that it comes up
+// wherever on a shape the mouse rests.
 void CCheckedDrawing::OnMouseMove(UINT flags, CPoint point)
 {
     const int shape = ShapeAt(point);
     // [show]
-    if (m_window != nullptr && shape >= 0 && (shape != m_shape || !m_window->IsDlgShowed()))
+    if (m_window != nullptr && shape >= 0 &&
+        (shape != m_shape || !m_window->IsDlgShowed()))
     {
         CStringArray texts;
         for (const wchar_t* line : kShapes[shape].lines)
@@ -104,8 +127,9 @@ CRect CCheckedDrawing::PlaceOf(int shape) const
     CRect client;
     GetClientRect(&client);
     const Shape& of = kShapes[shape];
-    return CRect(Share(of.left, client.Width()), Share(of.top, client.Height()), Share(of.right, client.Width()),
-                 Share(of.bottom, client.Height()));
+    return CRect(
+        Share(of.left, client.Width()), Share(of.top, client.Height()),
+        Share(of.right, client.Width()), Share(of.bottom, client.Height()));
 }
 
 int CCheckedDrawing::ShapeAt(CPoint point) const

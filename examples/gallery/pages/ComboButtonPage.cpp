@@ -3,7 +3,8 @@
 #include "../GalleryIds.h"
 
 const wchar_t CComboButtonPage::Description[] =
-    L"带一组命令的按钮：单击执行默认命令；右侧的箭头打开全部命令的菜单，选中的命令随即执行并成为默认命令。";
+    L"带一组命令的按钮：单击执行默认命令；右侧的箭头打开全部命令的菜单，选中"
+    L"的命令随即执行并成为默认命令。";
 
 namespace
 {
@@ -41,8 +42,10 @@ BEGIN_MESSAGE_MAP(CComboButtonPage, CGalleryPage)
 END_MESSAGE_MAP()
 
 CComboButtonPage::CComboButtonPage()
-    : CGalleryPage(IDD_COMBO_BUTTON_PAGE), m_new(this, MFCUtils::CComboButtonIMPItem::eNew, 0),
-      m_copy(this, MFCUtils::CComboButtonIMPItem::eCopyFrom, 0), m_edit(this, MFCUtils::CComboButtonIMPItem::eEdit, 0),
+    : CGalleryPage(IDD_COMBO_BUTTON_PAGE),
+      m_new(this, MFCUtils::CComboButtonIMPItem::eNew, 0),
+      m_copy(this, MFCUtils::CComboButtonIMPItem::eCopyFrom, 0),
+      m_edit(this, MFCUtils::CComboButtonIMPItem::eEdit, 0),
       m_delete(this, MFCUtils::CComboButtonIMPItem::eDel, 0), m_find(this)
 {
     m_delete.SetEnable(false);
@@ -64,12 +67,14 @@ BOOL CComboButtonPage::OnInitDialog()
     for (int i = 0; i < BUTTONS; ++i)
     {
         // [show]
-        m_buttons[i].AddItem(&m_new); // 第一条是默认命令；按钮不拥有它们
+        // 第一条是默认命令；按钮不拥有它们
+        m_buttons[i].AddItem(&m_new);
         m_buttons[i].AddItem(&m_copy);
         m_buttons[i].AddItem(&m_edit);
         m_buttons[i].AddItem(&m_delete);
         m_buttons[i].AddItem(&m_find);
-        m_buttons[i].SetComboButtonStyle(kStyles[i]); // CBTS_ROUND | CBTS_SHOWIMAGE ...
+        // 例如 CBTS_ROUND | CBTS_GRADIENT | CBTS_SHOWIMAGE
+        m_buttons[i].SetComboButtonStyle(kStyles[i]);
         // [end]
     }
     m_buttons[kUnavailable].SetDefaultItem(&m_delete);

@@ -1,4 +1,5 @@
-﻿// The combo button in eight styles, with the ready-made commands of the suite.
+﻿// The combo button in eight styles, with the ready-made commands of the
+// suite.
 #pragma once
 
 #include "../GalleryPage.h"
@@ -19,7 +20,7 @@ public:
 
     virtual bool Enabled() { return true; }
     virtual HICON GetIcon() { return NULL; } // 没有图标
-    virtual CString GetName() { return L"查找(&F)"; }
+    virtual CString GetName() { return L"查找"; }
     virtual void Action();
 
 private:

@@ -29,7 +29,8 @@ protected:
     afx_msg void OnDelete();
 
 private:
-    void ShowChoice(const LVITEMW& cell, const wchar_t* const* choices, int count);
+    void ShowChoice(const LVITEMW& cell, const wchar_t* const* choices,
+                    int count);
 
     // [show]
     CZNListCtrl m_layers; // 对话框成员

@@ -7,7 +7,8 @@
 // [end]
 
 const wchar_t CFollowTipPage::Description[] =
-    L"随鼠标移动的提示。鼠标离开所监视的窗口时提示隐藏，返回时再次显示；到时间后自行消失。";
+    L"随鼠标移动的提示。鼠标离开所监视的窗口时提示隐藏，返回时再次显示；到时"
+    L"间后自行消失。";
 
 namespace
 {
@@ -25,7 +26,8 @@ END_MESSAGE_MAP()
 void CWatchedArea::OnMouseMove(UINT flags, CPoint point)
 {
     CString text;
-    text.Format(L"X: %d\nY: %d", static_cast<int>(point.x), static_cast<int>(point.y));
+    text.Format(L"X: %d\nY: %d", static_cast<int>(point.x),
+                static_cast<int>(point.y));
     CFollowMouseTipWnd::ShowMsg(text, 0, NULL); // 0：20 秒
     CStatic::OnMouseMove(flags, point);
 }

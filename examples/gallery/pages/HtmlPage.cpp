@@ -7,19 +7,23 @@
 #include <shlwapi.h>
 
 const wchar_t CHtmlPage::Description[] =
-    L"对话框中的浏览器。以 “app:” 开头的链接不打开网页，而是交给程序的命令；其他地址照常打开。"
-    L"网页由系统的浏览器显示：在 Wine 下没有显示引擎，左侧为空白，命令照常工作，请用右侧的按钮。";
+    L"对话框中的浏览器。以 “app:” "
+    L"开头的链接不打开网页，而是交给程序的命令；其他地址照常打开。"
+    L"网页由系统的浏览器显示：在 Wine "
+    L"下没有显示引擎，左侧为空白，命令照常工作，请用右侧的按钮。";
 
 namespace
 {
 
 // By button.
-const wchar_t* const kAddresses[] = {L"app:open?id=3", L"APP:zoom?layer=0", L"application.html"};
+const wchar_t* const kAddresses[] = {L"app:open?id=3", L"APP:zoom?layer=0",
+                                     L"application.html"};
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CHtmlPage, CGalleryPage)
-    ON_CONTROL_RANGE(BN_CLICKED, IDC_HTML_OPEN, IDC_HTML_PAGE, &CHtmlPage::OnLink)
+    ON_CONTROL_RANGE(BN_CLICKED, IDC_HTML_OPEN, IDC_HTML_PAGE,
+                     &CHtmlPage::OnLink)
 END_MESSAGE_MAP()
 
 CHtmlPage::CHtmlPage() : CGalleryPage(IDD_HTML_PAGE) {}
@@ -44,8 +48,9 @@ void CHtmlPage::OnLink(UINT id)
 }
 
 // [show]
-void CHtmlPage::CLinks::OnBeforeNavigate2(LPCTSTR url, DWORD flags, LPCTSTR target, CByteArray& data, LPCTSTR headers,
-                                          BOOL* cancel)
+void CHtmlPage::CLinks::OnBeforeNavigate2(LPCTSTR url, DWORD flags,
+                                          LPCTSTR target, CByteArray& data,
+                                          LPCTSTR headers, BOOL* cancel)
 {
     CHtmlCtrl::OnBeforeNavigate2(url, flags, target, data, headers, cancel);
     if (!*cancel)
@@ -60,6 +65,7 @@ void CHtmlPage::CLinks::OnAppCmd(const wchar_t* command)
 
 void CHtmlPage::CLinks::Log(const wchar_t* what, const wchar_t* text)
 {
-    CListBox& log = *static_cast<CListBox*>(GetParent()->GetDlgItem(IDC_HTML_LOG));
+    CListBox& log =
+        *static_cast<CListBox*>(GetParent()->GetDlgItem(IDC_HTML_LOG));
     log.SetCurSel(log.AddString(CString(what) + text));
 }

@@ -1,4 +1,5 @@
-﻿// The browser control: a page whose links are commands, and the log of what they ask for.
+﻿// The browser control: a page whose links are commands, and the log of what
+// they ask for.
 #pragma once
 
 #include "../GalleryPage.h"
@@ -27,9 +28,11 @@ private:
     class CLinks : public CHtmlCtrl
     {
     public:
-        void OnBeforeNavigate2(LPCTSTR url, DWORD flags, LPCTSTR target, CByteArray& data, LPCTSTR headers,
+        void OnBeforeNavigate2(LPCTSTR url, DWORD flags, LPCTSTR target,
+                               CByteArray& data, LPCTSTR headers,
                                BOOL* cancel) override;
-        void OnAppCmd(const wchar_t* command) override; // <a href="app:open?id=3">
+        // <a href="app:open?id=3"> 给出 "open?id=3"
+        void OnAppCmd(const wchar_t* command) override;
 
     private:
         void Log(const wchar_t* what, const wchar_t* text);

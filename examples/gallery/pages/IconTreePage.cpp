@@ -2,12 +2,9 @@
 
 #include "../GalleryIds.h"
 
-// [show]
-#include <MFCUtils.h>
-// [end]
-
 const wchar_t CIconTreePage::Description[] =
-    L"在图像与文字之间显示任意多个附加图标：图标句柄、树自身图像列表或附加图像列表中的图像均可。";
+    L"在图像与文字之间显示任意多个附加图标：图标句柄、树自身图像列表或附加图"
+    L"像列表中的图像均可。";
 
 namespace
 {
@@ -58,7 +55,8 @@ BOOL CIconTreePage::OnInitDialog()
     return TRUE;
 }
 
-HTREEITEM CIconTreePage::Add(const wchar_t* name, HTREEITEM parent, std::initializer_list<int> marks)
+HTREEITEM CIconTreePage::Add(const wchar_t* name, HTREEITEM parent,
+                             std::initializer_list<int> marks)
 {
     const HTREEITEM item = m_tree.InsertItem(name, parent);
     // [show]
@@ -73,13 +71,15 @@ HTREEITEM CIconTreePage::Add(const wchar_t* name, HTREEITEM parent, std::initial
 void CIconTreePage::LoadMarks()
 {
     CStringArray names;
-    for (const wchar_t* name : {L"IDI_ICON_NEW", L"IDI_ICON_COPYFROM", L"IDI_ICON_EDIT", L"IDI_ICON_RENAME"})
+    for (const wchar_t* name : {L"IDI_ICON_NEW", L"IDI_ICON_COPYFROM",
+                                L"IDI_ICON_EDIT", L"IDI_ICON_RENAME"})
         names.Add(name);
     // [show]
     HICON icons[MARK_COUNT] = {}; // 图标归调用者
     MFCUtils::LoadIcons(names, icons, kMarkPixels, kMarkPixels);
     // [end]
-    m_marks.Create(kMarkPixels, kMarkPixels, ILC_COLOR32 | ILC_MASK, MARK_COUNT, 0);
+    m_marks.Create(kMarkPixels, kMarkPixels, ILC_COLOR32 | ILC_MASK,
+                   MARK_COUNT, 0);
     for (HICON icon : icons)
     {
         m_marks.Add(icon);

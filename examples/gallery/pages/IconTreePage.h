@@ -5,6 +5,7 @@
 
 // [show]
 #include <AddedIconTreeCtrl.h>
+#include <MFCUtils.h>
 #include <TreeItemImages.h>
 // [end]
 
@@ -20,7 +21,8 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
-    HTREEITEM Add(const wchar_t* name, HTREEITEM parent, std::initializer_list<int> marks);
+    HTREEITEM Add(const wchar_t* name, HTREEITEM parent,
+                  std::initializer_list<int> marks);
     void LoadMarks();
 
     // [show]

@@ -7,7 +7,8 @@
 // [end]
 
 const wchar_t CInputDialogPage::Description[] =
-    L"请用户输入一行文字的小对话框。派生类给出标题、提示和初始文字，并决定是否接受输入。";
+    L"请用户输入一行文字的小对话框。派生类给出标题、提示和初始文字，并决定是"
+    L"否接受输入。";
 
 namespace
 {
@@ -19,12 +20,18 @@ const int kLongestName = 31;
 class CLayerNameDialog : public CInputDialog
 {
 public:
-    CLayerNameDialog(CWnd* parent, const CString& name) : CInputDialog(parent), m_name(name) {}
+    CLayerNameDialog(CWnd* parent, const CString& name)
+        : CInputDialog(parent), m_name(name)
+    {
+    }
 
     CString Title() override { return L"图层"; }
     CString TipMsg() override { return L"图层名:"; }
     CString DefaultValue() override { return m_name; }
-    void OnInitDialog() override { GetEditControl()->SetLimitText(kLongestName); }
+    void OnInitDialog() override
+    {
+        GetEditControl()->SetLimitText(kLongestName);
+    }
     bool OnOk(CString& value) override; // false：对话框保持打开
 
 private:

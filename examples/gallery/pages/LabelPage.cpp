@@ -2,7 +2,8 @@
 
 #include "../GalleryIds.h"
 
-const wchar_t CLabelPage::Description[] = L"带上标和下标的文字，用于单位和符号：{U 开始上标，{B 开始下标，} 结束。";
+const wchar_t CLabelPage::Description[] =
+    L"带上标和下标的文字，用于单位和符号：{U 开始上标，{B 开始下标，} 结束。";
 
 BEGIN_MESSAGE_MAP(CLabelPage, CGalleryPage)
     ON_EN_CHANGE(IDC_LABEL_TEXT, &CLabelPage::OnTextChange)

@@ -9,7 +9,8 @@
 #include <acutads.h>
 
 const wchar_t CMessageObjectPage::Description[] =
-    L"命令所调用的代码只管报告，不必知道消息显示在哪里；消息对象收集它们，最后由命令决定怎样显示。";
+    L"命令所调用的代码只管报告，不必知道消息显示在哪里；消息对象收集它们，最"
+    L"后由命令决定怎样显示。";
 
 namespace
 {
@@ -21,7 +22,8 @@ void CheckSheets() // 被调用的代码：只管报告
 {
     ZNKTPub::ReportMsg(CMsgCallback::eInfo, kGroup, L"共有 3 张图纸");
     ZNKTPub::ReportMsg(CMsgCallback::eError, kGroup, L"图纸 2 没有标题栏");
-    ZNKTPub::ReportMsg(CMsgCallback::eWarning, kGroup, L"检查完成，有 1 处错误");
+    ZNKTPub::ReportMsg(CMsgCallback::eWarning, kGroup,
+                       L"检查完成，有 1 处错误");
 }
 // [end]
 
@@ -33,7 +35,10 @@ BEGIN_MESSAGE_MAP(CMessageObjectPage, CGalleryPage)
     ON_BN_CLICKED(IDC_MESSAGE_OBJECT_PANEL, &CMessageObjectPage::OnPanel)
 END_MESSAGE_MAP()
 
-CMessageObjectPage::CMessageObjectPage() : CGalleryPage(IDD_MESSAGE_OBJECT_PAGE) {}
+CMessageObjectPage::CMessageObjectPage()
+    : CGalleryPage(IDD_MESSAGE_OBJECT_PAGE)
+{
+}
 
 BOOL CMessageObjectPage::OnInitDialog()
 {

@@ -1,4 +1,5 @@
-// The message object: collects what the code called by a command reports, and presents it in three ways.
+// The message object: collects what the code called by a command reports, and
+// presents it in three ways.
 #pragma once
 
 #include "../GalleryPage.h"

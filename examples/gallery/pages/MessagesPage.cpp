@@ -7,19 +7,23 @@
 #include <dbsymtb.h>
 
 const wchar_t CMessagesPage::Description[] =
-    L"任何模块都可以向消息面板报告信息、警告和错误，并附带有关的对象和范围。添加消息不会弹出面板，全部添加之后再显示。";
+    L"任何模块都可以向消息面板报告信息、警告和错误，并附带有关的对象和范围。"
+    L"添加消息不会弹出面板，全部添加之后再显示。";
 
 namespace
 {
 
 const wchar_t kGroup[] = L"控件库示例";
 
-// The first object of the drawing that has an area; false when there is no drawing or none in it.
+// The first object of the drawing that has an area; false when there is no
+// drawing or none in it.
 bool FindObject(AcArray<AcDbObjectId>& objects, AcDbExtents& area)
 {
-    AcDbDatabase* const drawing = acdbHostApplicationServices()->workingDatabase();
+    AcDbDatabase* const drawing =
+        acdbHostApplicationServices()->workingDatabase();
     AcDbBlockTableRecord* space = NULL;
-    if (drawing == NULL || acdbOpenObject(space, drawing->currentSpaceId(), AcDb::kForRead) != Acad::eOk)
+    if (drawing == NULL || acdbOpenObject(space, drawing->currentSpaceId(),
+                                          AcDb::kForRead) != Acad::eOk)
         return false;
     AcDbBlockTableRecordIterator* iterator = NULL;
     space->newIterator(iterator);
@@ -107,11 +111,14 @@ void CMessagesPage::Add(KTMsgWnd::EMsgType type, const wchar_t* text)
 {
     AcArray<AcDbObjectId> objects; // 消息涉及的对象，可以没有
     AcDbExtents area;              // 消息涉及的范围，可以没有
-    const bool wanted = IsDlgButtonChecked(IDC_MESSAGES_OBJECT) == BST_CHECKED;
+    const bool wanted =
+        IsDlgButtonChecked(IDC_MESSAGES_OBJECT) == BST_CHECKED;
     const bool found = wanted && FindObject(objects, area);
-    const bool isBound = IsDlgButtonChecked(IDC_MESSAGES_BOUND) == BST_CHECKED;
+    const bool isBound =
+        IsDlgButtonChecked(IDC_MESSAGES_BOUND) == BST_CHECKED;
 
-    KTMsgWnd::AddMsg(type, kGroup, text, isBound, &objects, found ? &area : NULL);
+    KTMsgWnd::AddMsg(type, kGroup, text, isBound, &objects,
+                     found ? &area : NULL);
     KTMsgWnd::UpdateMsgWnd(); // 面板已打开时刷新
     ShowCount();
 }

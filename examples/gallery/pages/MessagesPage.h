@@ -1,4 +1,5 @@
-// The message service: messages of each kind, with and without an object of the drawing, and the message palette.
+// The message service: messages of each kind, with and without an object of
+// the drawing, and the message palette.
 #pragma once
 
 #include "../GalleryPage.h"

@@ -8,7 +8,8 @@
 // [end]
 
 const wchar_t CPropertySheetPage::Description[] =
-    L"没有“帮助”按钮的属性表。“应用”始终可用，可以一次应用所有页，也可以不显示；打开时即创建所有页。";
+    L"没有“帮助”按钮的属性表。“应用”始终可用，可以一次应用所有页，也可以不显"
+    L"示；打开时即创建所有页。";
 
 namespace
 {
@@ -40,7 +41,10 @@ BEGIN_MESSAGE_MAP(CPropertySheetPage, CGalleryPage)
     ON_BN_CLICKED(IDC_PROPERTY_SHEET_OPEN, &CPropertySheetPage::OnOpen)
 END_MESSAGE_MAP()
 
-CPropertySheetPage::CPropertySheetPage() : CGalleryPage(IDD_PROPERTY_SHEET_PAGE) {}
+CPropertySheetPage::CPropertySheetPage()
+    : CGalleryPage(IDD_PROPERTY_SHEET_PAGE)
+{
+}
 
 BOOL CPropertySheetPage::OnInitDialog()
 {
@@ -53,7 +57,8 @@ BOOL CPropertySheetPage::OnInitDialog()
 
 void CPropertySheetPage::OnOpen()
 {
-    CListBox& log = *static_cast<CListBox*>(GetDlgItem(IDC_PROPERTY_SHEET_LOG));
+    CListBox& log =
+        *static_cast<CListBox*>(GetDlgItem(IDC_PROPERTY_SHEET_LOG));
     CLoggingPage general(IDD_SHEET_GENERAL, L"常规", log);
     CLoggingPage drawing(IDD_SHEET_DRAWING, L"图形", log);
     CLoggingPage output(IDD_SHEET_OUTPUT, L"输出", log);
@@ -71,5 +76,6 @@ void CPropertySheetPage::OnOpen()
     const CAcModuleResourceOverride resources;
     const INT_PTR result = sheet.DoModal();
     // [end]
-    log.SetCurSel(log.AddString(result == IDOK ? L"关闭: 确定" : L"关闭: 取消"));
+    log.SetCurSel(
+        log.AddString(result == IDOK ? L"关闭: 确定" : L"关闭: 取消"));
 }

@@ -1,4 +1,5 @@
-// The property sheet without Help: opens one with three pages, and tells which of them were applied.
+// The property sheet without Help: opens one with three pages, and tells
+// which of them were applied.
 #pragma once
 
 #include "../GalleryPage.h"

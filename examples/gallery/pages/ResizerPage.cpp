@@ -7,7 +7,8 @@
 // [end]
 
 const wchar_t CResizerPage::Description[] =
-    L"对话框改变大小时，每个控件按比例移动和伸展；窗口的位置和大小按名称保存，下次打开时恢复。";
+    L"对话框改变大小时，每个控件按比例移动和伸展；窗口的位置和大小按名称保存"
+    L"，下次打开时恢复。";
 
 namespace
 {
@@ -17,7 +18,9 @@ const wchar_t kSection[] = L"GalleryResizer";
 class CResizableDlg : public CDialog
 {
 public:
-    explicit CResizableDlg(CWnd* parent) : CDialog(IDD_RESIZER_DIALOG, parent) {}
+    explicit CResizableDlg(CWnd* parent) : CDialog(IDD_RESIZER_DIALOG, parent)
+    {
+    }
 
 protected:
     BOOL OnInitDialog() override;
@@ -54,8 +57,10 @@ BOOL CResizableDlg::OnInitDialog()
     m_resize.AddCtrl(IDC_RESIZER_NOTE, 0, 1, 1, 0);
     m_resize.AddCtrl(IDOK, 1, 1, 0, 0); // 跟随右下角
     // [end]
-    SetDlgItemText(IDC_RESIZER_LEFT, L"左边的一半\r\n\r\n宽度增量的一半归左边，一半归右边；高度增量两边都有。");
-    SetDlgItemText(IDC_RESIZER_RIGHT, L"右边的一半\r\n\r\n向右移动半个增量，并伸展半个增量。");
+    SetDlgItemText(IDC_RESIZER_LEFT, L"左边的一半\r\n\r\n宽度增量的一半归左边"
+                                     L"，一半归右边；高度增量两边都有。");
+    SetDlgItemText(IDC_RESIZER_RIGHT,
+                   L"右边的一半\r\n\r\n向右移动半个增量，并伸展半个增量。");
     // [show]
     CCtrlResize::RestoreWinPos(kSection, m_hWnd, TRUE); // OnInitDialog 的最后
     // [end]

@@ -1,4 +1,5 @@
-﻿// The rich edit: RTF, formats of the selection, the edit menu on the right mouse button.
+﻿// The rich edit: RTF, formats of the selection, the edit menu on the right
+// mouse button.
 #pragma once
 
 #include "../GalleryPage.h"

@@ -3,7 +3,9 @@
 #include "../GalleryIds.h"
 
 const wchar_t CSlidePage::Description[] =
-    L"预览幻灯片（.sld）和图像文件：幻灯片保持比例，图像填满带凹陷边框的控件，读不出的幻灯片说明原因。";
+    L"预览幻灯片（."
+    L"sld）和图像文件：幻灯片保持比例，图像填满带凹陷边框的控件，读不出的幻灯"
+    L"片说明原因。";
 
 namespace
 {
@@ -38,8 +40,8 @@ BOOL CSlidePage::OnInitDialog()
     // [show]
     m_slide.SetFileName(Sample(L"bracket.sld")); // 幻灯片，保持比例
     m_image.SetBkColor(RGB(255, 255, 255));      // 背景色
-    m_image.SetFileName(Sample(L"flange.png"));  // BMP、GIF、JPEG、PNG、TIFF
-    m_empty.SetFileName(L"");                    // 不显示
+    m_image.SetFileName(Sample(L"flange.png")); // BMP、GIF、JPEG、PNG、TIFF
+    m_empty.SetFileName(L"");                   // 不显示
     m_damaged.SetBkColor(RGB(255, 255, 255));
     m_damaged.SetFileName(Sample(L"cut-off.sld"));
     // [end]

@@ -1,4 +1,5 @@
-// The picture preview: a slide, an image, nothing, and a file that is damaged.
+// The picture preview: a slide, an image, nothing, and a file that is
+// damaged.
 #pragma once
 
 #include "../GalleryPage.h"

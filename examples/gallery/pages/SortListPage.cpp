@@ -3,7 +3,8 @@
 #include "../GalleryIds.h"
 
 const wchar_t CSortListPage::Description[] =
-    L"单击列标题即可排序：文字、数字各按其值，标题中的箭头表示方向。颜色列显示色块，单击的单元格突出显示。";
+    L"单击列标题即可排序：文字、数字各按其值，标题中的箭头表示方向。颜色列显"
+    L"示色块，单击的单元格突出显示。";
 
 namespace
 {
@@ -23,12 +24,14 @@ struct Layer
 };
 
 const Layer kLayers[] = {
-    {L"轮廓线", L"128", L"白"},   {L"中心线", L"24", L"红"},     {L"标注", L"9", L"绿"},
-    {L"剖面线", L"310", L"30"},   {L"虚线", L"57", L"黄"},       {L"文字", L"86", L"青"},
-    {L"螺纹", L"12", L"洋红"},    {L"焊缝", L"3", L"255,128,0"}, {L"图框", L"41", L"蓝"},
-    {L"标题栏", L"18", L"随层"},  {L"明细表", L"64", L"8"},      {L"粗糙度", L"7", L"随块"},
-    {L"局部视图", L"33", L"140"}, {L"断裂线", L"5", L"200"},     {L"Defpoints", L"2", L"白"},
-    {L"0", L"71", L"白"},
+    {L"轮廓线", L"128", L"白"},   {L"中心线", L"24", L"红"},
+    {L"标注", L"9", L"绿"},       {L"剖面线", L"310", L"30"},
+    {L"虚线", L"57", L"黄"},      {L"文字", L"86", L"青"},
+    {L"螺纹", L"12", L"洋红"},    {L"焊缝", L"3", L"255,128,0"},
+    {L"图框", L"41", L"蓝"},      {L"标题栏", L"18", L"随层"},
+    {L"明细表", L"64", L"8"},     {L"粗糙度", L"7", L"随块"},
+    {L"局部视图", L"33", L"140"}, {L"断裂线", L"5", L"200"},
+    {L"Defpoints", L"2", L"白"},  {L"0", L"71", L"白"},
 };
 
 } // namespace
@@ -53,12 +56,13 @@ BOOL CSortListPage::OnInitDialog()
     m_layers.InsertColumn(COLUMN_COLOUR, L"颜色", LVCFMT_LEFT, 200);
     for (const Layer& layer : kLayers)
     {
-        const int row = m_layers.InsertItem(m_layers.GetItemCount(), layer.name);
+        const int row =
+            m_layers.InsertItem(m_layers.GetItemCount(), layer.name);
         m_layers.SetItemText(row, COLUMN_OBJECTS, layer.objects);
         m_layers.SetItemText(row, COLUMN_COLOUR, layer.colour);
     }
-    m_layers.SetIsColorColumn(COLUMN_COLOUR, 1);      // 颜色名称带色块
-    m_layers.SortColumn(COLUMN_OBJECTS, 1, 0);        // 按数字降序
+    m_layers.SetIsColorColumn(COLUMN_COLOUR, 1); // 颜色名称带色块
+    m_layers.SortColumn(COLUMN_OBJECTS, 1, 0);   // 按数字降序
     m_layers.SetCellHighlight(true, 2, COLUMN_LAYER); // 突出显示单击的单元格
     // [end]
     return TRUE;

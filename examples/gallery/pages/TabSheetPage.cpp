@@ -2,7 +2,8 @@
 
 #include "../GalleryIds.h"
 
-const wchar_t CTabSheetPage::Description[] = L"选项卡：最多十六个对话框页，单击选项卡或由程序切换。";
+const wchar_t CTabSheetPage::Description[] =
+    L"选项卡：最多十六个对话框页，单击选项卡或由程序切换。";
 
 CTabSheetPage::CTabSheetPage() : CGalleryPage(IDD_TAB_SHEET_PAGE) {}
 

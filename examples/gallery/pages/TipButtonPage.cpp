@@ -3,7 +3,8 @@
 #include "../GalleryIds.h"
 
 const wchar_t CTipButtonPage::Description[] =
-    L"鼠标停在按钮上时，在指定的一侧显示多行提示；该侧屏幕空间不够时改到另一侧。单击或按键后提示隐藏。";
+    L"鼠标停在按钮上时，在指定的一侧显示多行提示；该侧屏幕空间不够时改到另一"
+    L"侧。单击或按键后提示隐藏。";
 
 namespace
 {
@@ -11,7 +12,8 @@ namespace
 const CSize kTipSize(150, 48); // pixels
 
 // [show]
-void SetUp(CToolTipXTButton& button, const wchar_t* tip, CToolTipXTButton::ESide side)
+void SetUp(CToolTipXTButton& button, const wchar_t* tip,
+           CToolTipXTButton::ESide side)
 {
     button.SetToolTip(tip);
     button.SetToolTipWndSide(side);
@@ -40,8 +42,10 @@ BOOL CTipButtonPage::OnInitDialog()
     // [show]
     SetUp(m_left, L"提示显示在按钮的左侧", CToolTipXTButton::SIDE_LEFT);
     SetUp(m_right, L"提示显示在按钮的右侧", CToolTipXTButton::SIDE_RIGHT);
-    SetUp(m_above, L"提示显示在按钮的上方，较长的文字自动换行", CToolTipXTButton::SIDE_ABOVE);
-    SetUp(m_below, L"检查当前图形，并在消息面板中列出发现的所有问题", CToolTipXTButton::SIDE_BELOW);
+    SetUp(m_above, L"提示显示在按钮的上方，较长的文字自动换行",
+          CToolTipXTButton::SIDE_ABOVE);
+    SetUp(m_below, L"检查当前图形，并在消息面板中列出发现的所有问题",
+          CToolTipXTButton::SIDE_BELOW);
     // [end]
     return TRUE;
 }

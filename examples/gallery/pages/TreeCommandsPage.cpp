@@ -2,12 +2,9 @@
 
 #include "../GalleryIds.h"
 
-// [show]
-#include <MFCUtils.h>
-// [end]
-
 const wchar_t CTreeCommandsPage::Description[] =
-    L"管理命名条目的对话框所需的一切：条目树，以及组合按钮上的新建、复制新建、编辑、重命名和删除。";
+    L"管理命名条目的对话框所需的一切：条目树，以及组合按钮上的新建、复制新建"
+    L"、编辑、重命名和删除。";
 
 typedef MFCUtils::CComboButtonIMPItem CCommand;
 
@@ -19,13 +16,16 @@ BEGIN_MESSAGE_MAP(CTreeCommandsPage, CGalleryPage)
     ON_MESSAGE(UM_TREE_RENAME, &CTreeCommandsPage::OnRename)
     ON_MESSAGE(UM_TREE_DEL, &CTreeCommandsPage::OnDelete)
     // [end]
-    ON_NOTIFY(TVN_ENDLABELEDIT, IDC_TREE_COMMANDS_TREE, &CTreeCommandsPage::OnEndRename)
+    ON_NOTIFY(TVN_ENDLABELEDIT, IDC_TREE_COMMANDS_TREE,
+              &CTreeCommandsPage::OnEndRename)
 END_MESSAGE_MAP()
 
 // [show]
 CTreeCommandsPage::CTreeCommandsPage()
-    : CGalleryPage(IDD_TREE_COMMANDS_PAGE), m_noticeId(IDC_TREE_COMMANDS_NOTICE), m_new(this, CCommand::eNew, 0),
-      m_copyFrom(this, CCommand::eCopyFrom, 0), m_edit(this, CCommand::eEdit, 0), m_rename(this, CCommand::eRename, 0),
+    : CGalleryPage(IDD_TREE_COMMANDS_PAGE),
+      m_noticeId(IDC_TREE_COMMANDS_NOTICE), m_new(this, CCommand::eNew, 0),
+      m_copyFrom(this, CCommand::eCopyFrom, 0),
+      m_edit(this, CCommand::eEdit, 0), m_rename(this, CCommand::eRename, 0),
       m_delete(this, CCommand::eDel, 0)
 {
 }
@@ -43,7 +43,8 @@ BOOL CTreeCommandsPage::OnInitDialog()
     CGalleryPage::OnInitDialog();
     // [show]
     // 第一项为默认命令
-    for (CComboButtonItem* item : {&m_new, &m_copyFrom, &m_edit, &m_rename, &m_delete})
+    for (CComboButtonItem* item :
+         {&m_new, &m_copyFrom, &m_edit, &m_rename, &m_delete})
         m_button.AddItem(item);
     // [end]
     m_resize.AddCtrl(IDC_TREE_COMMANDS_TREE, 0, 0, 1, 1);
@@ -106,7 +107,8 @@ LRESULT CTreeCommandsPage::OnDelete(WPARAM, LPARAM)
 
 void CTreeCommandsPage::OnEndRename(NMHDR* header, LRESULT* result)
 {
-    const wchar_t* const name = reinterpret_cast<const NMTVDISPINFO*>(header)->item.pszText;
+    const wchar_t* const name =
+        reinterpret_cast<const NMTVDISPINFO*>(header)->item.pszText;
     *result = name != NULL && name[0] != 0;
 }
 

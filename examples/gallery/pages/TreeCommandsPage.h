@@ -7,6 +7,7 @@
 #include <ComboButton.h>
 #include <ComboButtonIMPItem.h>
 #include <MFCCommonTree.h>
+#include <MFCUtils.h>
 // [end]
 
 class CTreeCommandsPage : public CGalleryPage

@@ -7,14 +7,15 @@
 // [end]
 
 const wchar_t CWaitDialogPage::Description[] =
-    L"长时间的操作通过回调显示进度，并询问用户是否取消。等待对话框在自己的线程中运行，操作再忙也能响应。";
+    L"长时间的操作通过回调显示进度，并询问用户是否取消。等待对话框在自己的线"
+    L"程中运行，操作再忙也能响应。";
 
 namespace
 {
 
 // Long enough for the dialog to be read and cancelled.
 const int kSteps = 100;
-const int kNumbersPerStep = 50000;
+const int kNumbersPerStep = 100000;
 
 bool IsPrime(int number)
 {
@@ -61,7 +62,8 @@ BOOL CWaitDialogPage::OnInitDialog()
 
 void CWaitDialogPage::OnStart()
 {
-    const bool mayCancel = IsDlgButtonChecked(IDC_WAIT_DIALOG_CANCEL) == BST_CHECKED;
+    const bool mayCancel =
+        IsDlgButtonChecked(IDC_WAIT_DIALOG_CANCEL) == BST_CHECKED;
     int primes = 0;
     int step = 0;
     // [show]
@@ -84,7 +86,8 @@ void CWaitDialogPage::OnStart()
 void CWaitDialogPage::ShowResult(int steps, int primes)
 {
     CString text;
-    text.Format(steps < kSteps ? L"已取消：%d 以内有 %d 个素数。" : L"已完成：%d 以内有 %d 个素数。",
+    text.Format(steps < kSteps ? L"已取消：%d 以内有 %d 个素数。"
+                               : L"已完成：%d 以内有 %d 个素数。",
                 steps * kNumbersPerStep, primes);
     SetDlgItemText(IDC_WAIT_DIALOG_RESULT, text);
 }
