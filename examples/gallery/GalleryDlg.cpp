@@ -108,6 +108,8 @@ void CGalleryDlg::OnOK()
 
 void CGalleryDlg::OnCancel()
 {
+    if (LeaveCell())
+        return;
     if (m_search.GetWindowTextLength() > 0)
         m_search.SetWindowText(L"");
     else
@@ -303,6 +305,17 @@ bool CGalleryDlg::TakeKey(UINT key)
         m_code.SetSel(0, -1); // before Windows 10 an edit of many lines does not know the key
     else
         return false;
+    return true;
+}
+
+// The editor of a list leaves Escape to the dialog, but nobody who gives a cell up means the whole window.
+bool CGalleryDlg::LeaveCell()
+{
+    CWnd* const focus = GetFocus();
+    CWnd* const list = focus != nullptr ? focus->GetParent() : nullptr;
+    if (list == nullptr || !list->IsKindOf(RUNTIME_CLASS(CListCtrl)))
+        return false;
+    list->SetFocus();
     return true;
 }
 

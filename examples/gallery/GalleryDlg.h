@@ -2,7 +2,7 @@
 //
 // Modeless and owned by the host's frame; it deletes itself when it is closed, and opens next where it was.
 // Ctrl+F and F3 go to the search; Enter and Down go from there to what it found. F6 and Ctrl+Tab go around tree, page
-// and code, with Shift backwards. Esc empties the search, then closes.
+// and code, with Shift backwards. Esc leaves a cell that is edited, empties the search, then closes.
 #pragma once
 
 #include "GalleryPage.h"
@@ -56,6 +56,7 @@ private:
     void OpenPage(const GalleryEntry& entry);
     void PlacePage();
     bool TakeKey(UINT key);
+    bool LeaveCell();
     void GoToSearch();
     void GoToFound();
     void GoToNextPane(bool back);

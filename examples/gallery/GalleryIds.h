@@ -136,6 +136,7 @@
 // Check window: 2250 to 2299
 #define IDD_CHECK_WINDOW_PAGE 2250
 #define IDC_CHECK_WINDOW_DRAWING 2251
+#define IDC_CHECK_WINDOW_SHOW 2252
 
 // Message service: 2500 to 2549
 #define IDD_MESSAGES_PAGE 2500

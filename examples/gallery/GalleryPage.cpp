@@ -4,6 +4,7 @@
 
 BEGIN_MESSAGE_MAP(CGalleryPage, CDialog)
     ON_WM_SIZE()
+    ON_MESSAGE(WM_NEXTDLGCTL, &CGalleryPage::OnNextControl)
 END_MESSAGE_MAP()
 
 bool CGalleryPage::CreateIn(CWnd& parent)
@@ -28,4 +29,10 @@ void CGalleryPage::OnSize(UINT type, int cx, int cy)
 {
     CDialog::OnSize(type, cx, cy);
     m_resize.ResizeAllCtrl(cx, cy);
+}
+
+// A rich edit hands Tab to the dialog around it, which would go around among the controls of the page only.
+LRESULT CGalleryPage::OnNextControl(WPARAM wParam, LPARAM lParam)
+{
+    return GetParent()->SendMessage(WM_NEXTDLGCTL, wParam, lParam);
 }

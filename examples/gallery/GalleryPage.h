@@ -22,6 +22,7 @@ protected:
     void OnCancel() override {}
 
     afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 

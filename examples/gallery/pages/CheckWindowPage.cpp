@@ -88,21 +88,25 @@ void CCheckedDrawing::End()
 }
 // [end]
 
+// [show]
+void CCheckedDrawing::ShowResultOf(int shape)
+{
+    CStringArray texts;
+    for (const wchar_t* line : kShapes[shape].lines)
+        texts.Add(line);
+    if (m_window != nullptr)
+        m_window->ShowMsg(texts); // 主线程只投递文字
+}
+// [end]
+
 // The texts are posted again while the window is hidden, so that it comes up
 // wherever on a shape the mouse rests.
 void CCheckedDrawing::OnMouseMove(UINT flags, CPoint point)
 {
     const int shape = ShapeAt(point);
-    // [show]
-    if (m_window != nullptr && shape >= 0 &&
-        (shape != m_shape || !m_window->IsDlgShowed()))
-    {
-        CStringArray texts;
-        for (const wchar_t* line : kShapes[shape].lines)
-            texts.Add(line);
-        m_window->ShowMsg(texts); // 主线程只投递文字
-    }
-    // [end]
+    const bool isShown = m_window != nullptr && m_window->IsDlgShowed();
+    if (shape >= 0 && (shape != m_shape || !isShown))
+        ShowResultOf(shape);
     m_shape = shape;
     CStatic::OnMouseMove(flags, point);
 }
@@ -144,6 +148,7 @@ int CCheckedDrawing::ShapeAt(CPoint point) const
 
 BEGIN_MESSAGE_MAP(CCheckWindowPage, CGalleryPage)
     ON_WM_DESTROY()
+    ON_BN_CLICKED(IDC_CHECK_WINDOW_SHOW, &CCheckWindowPage::OnShowCircle)
 END_MESSAGE_MAP()
 
 CCheckWindowPage::CCheckWindowPage() : CGalleryPage(IDD_CHECK_WINDOW_PAGE) {}
@@ -157,6 +162,7 @@ void CCheckWindowPage::DoDataExchange(CDataExchange* exchange)
 BOOL CCheckWindowPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
+    m_resize.AddCtrl(IDC_CHECK_WINDOW_DRAWING, 0, 0, 1, 1);
     m_drawing.Start();
     return TRUE;
 }
@@ -165,4 +171,9 @@ void CCheckWindowPage::OnDestroy()
 {
     m_drawing.End();
     CGalleryPage::OnDestroy();
+}
+
+void CCheckWindowPage::OnShowCircle()
+{
+    m_drawing.ShowResultOf(CIRCLE);
 }

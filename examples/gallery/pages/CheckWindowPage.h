@@ -13,6 +13,7 @@ class CCheckedDrawing : public CStatic
 public:
     void Start();
     void End();
+    void ShowResultOf(int shape);
 
 protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
@@ -42,6 +43,7 @@ protected:
     BOOL OnInitDialog() override;
 
     afx_msg void OnDestroy();
+    afx_msg void OnShowCircle();
 
     DECLARE_MESSAGE_MAP()
 
