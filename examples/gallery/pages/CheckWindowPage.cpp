@@ -47,6 +47,7 @@ const Shape kShapes[] = {
      RGB(70, 150, 90),
      {L"类型: 多段线", L"图层: 标注", L"未发现问题"}},
 };
+const int kCircle = 1; // its place among them
 
 int Share(double share, int whole)
 {
@@ -175,5 +176,5 @@ void CCheckWindowPage::OnDestroy()
 
 void CCheckWindowPage::OnShowCircle()
 {
-    m_drawing.ShowResultOf(CIRCLE);
+    m_drawing.ShowResultOf(kCircle);
 }
