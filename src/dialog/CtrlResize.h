@@ -60,12 +60,13 @@ public:
     void ResizeAllCtrl(int cx, int cy);
 
     // Keeps the place of a window, and its size when bSaveSize is not 0, under a name in the current user's
-    // WindowPos.ini. Sizes are kept and restored in pairs: restoring one that was not kept gives the window the size
-    // -1.
+    // WindowPos.ini (sections are the names; TopLX, TopLY, Width, Height in pixels of the screen). Sizes are kept and
+    // restored in pairs: restoring one that was not kept gives the window the size -1. No name, an empty one or no
+    // window: nothing happens.
     static void SaveWinPos(const wchar_t* pszSection, HWND hWnd, int bSaveSize);
 
     // Puts a window where SaveWinPos found it. A place that was never kept, or would hide the window beyond the edges
-    // of the main screen, leaves the window alone.
+    // of the main screen, leaves the window alone. A size larger than the main screen is cut to it.
     static void RestoreWinPos(const wchar_t* pszSection, HWND hWnd, int bRestoreSize);
 
 private:

@@ -36,9 +36,10 @@ public:
     CHtmlCtrl();
     virtual ~CHtmlCtrl();
 
-    // Puts the control in the place of the dialog item nID, whose window is destroyed: same rectangle, same id. FALSE:
-    // there is no parent or no such item, or this control has its window already; nothing has changed then. FALSE also
-    // when the system's browser cannot be created: the item is gone in that case.
+    // Puts the control in the place of the dialog item nID, whose window is destroyed: same rectangle, same id. No
+    // object may stand for the item (DDX_Control). FALSE: there is no parent or no such item, or this control has its
+    // window already; nothing has changed then. FALSE also when the system's browser cannot be created: the item is
+    // gone in that case.
     int CreateFromStatic(UINT nID, CWnd* pParent);
 
     // Hands "app:" addresses, in any letter case, to OnAppCmd without the prefix and cancels the navigation. All others

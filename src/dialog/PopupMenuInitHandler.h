@@ -4,7 +4,8 @@
 //     CPopupMenuInitHandler m_popups;
 //     m_popups.HookWindow(m_hWnd);
 //
-// The hook answers WM_INITMENUPOPUP itself; nobody behind it sees the message.
+// The hook answers WM_INITMENUPOPUP (wParam: the menu; lParam: low word its place in its parent, high word whether it
+// is the system menu) with 0 itself; nobody behind it sees the message.
 #pragma once
 
 #include <afxwin.h>

@@ -39,8 +39,8 @@ public:
     int GetEnabled();
 
     virtual void DrawItem(DRAWITEMSTRUCT* item);
-    // Along the edges of the window: two sunken lines, and partly over them a band, three pixels wide, in the
-    // background colour.
+    // Along the edges of the window, whose upper left corner is the origin of `dc`: two sunken lines, and partly over
+    // them a band, three pixels wide, in the background colour.
     void DrawBorder(CDC* dc);
 
 private:

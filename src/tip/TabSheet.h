@@ -33,7 +33,8 @@ public:
     // sheet; the dialog is not created yet.
     int AddPage(const wchar_t* title, CDialog* page, UINT templateId);
 
-    // Creates the pages that were added and their tabs, and shows the first page. The window of the sheet must exist.
+    // Creates the pages that were added and their tabs, and shows the first page. The window of the sheet must exist;
+    // the windows of the pages end with it.
     void Show();
 
     // Lays the pages out after the sheet was resized, and shows the first one whatever is selected: for use before the

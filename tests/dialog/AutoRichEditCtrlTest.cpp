@@ -368,6 +368,24 @@ TEST_F(AutoRichEdit, ABulletBringsAnOffsetWhereThereIsNone)
     EXPECT_EQ(0, Paragraph(4).wNumbering);
 }
 
+TEST_F(AutoRichEdit, ABulletThatBringsAnOffsetGivesAllParagraphsTheIndentOfTheFirst)
+{
+    SetText(L"one\r\ntwo");
+    PARAFORMAT2 indented = {};
+    indented.dwMask = PFM_STARTINDENT;
+    indented.dxStartIndent = 200;
+    m_edit.SetSel(4, 4);
+    m_edit.SetParaFormat(indented);
+    m_edit.SetSel(0, 7);
+    m_edit.ToggleBullet();
+    for (const long position : {0, 4})
+    {
+        EXPECT_EQ(PFN_BULLET, Paragraph(position).wNumbering) << position;
+        EXPECT_EQ(4, Paragraph(position).dxOffset) << position;
+        EXPECT_EQ(0, Paragraph(position).dxStartIndent) << position;
+    }
+}
+
 TEST_F(AutoRichEdit, ABulletKeepsTheOffsetThatTheParagraphHas)
 {
     SetText(L"one");

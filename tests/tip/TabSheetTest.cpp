@@ -193,6 +193,14 @@ TEST_F(TabSheet, AClickOnTheCurrentTabOrBesideTheTabsChangesNothing)
     EXPECT_EQ(before, m_pages[0].changes);
 }
 
+TEST_F(TabSheet, AClickBeforeThereAreTabsChangesNothing)
+{
+    AddPages();
+    m_sheet.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
+    m_sheet.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+    EXPECT_EQ(0, m_sheet.SetCurSel(1)) << "the first page is still the current one";
+}
+
 TEST_F(TabSheet, ArrowKeysDoNotSwitchThePage)
 {
     ShowPages();
