@@ -1,5 +1,7 @@
 #include "tip/ButtonTipDrawing.h"
 
+#include "base/SavedDC.h"
+
 namespace
 {
 
@@ -24,16 +26,12 @@ CRect ButtonTipTextRect(const CRect& client, CSize text)
 
 void DrawButtonTip(CDC& dc, const CRect& client, const ButtonTipLook& look)
 {
-    const COLORREF backColor = dc.GetBkColor();
+    const CSavedDC saved(dc);
     dc.FillSolidRect(&client, look.background);
     dc.Draw3dRect(&client, kFrame, kFrame);
-    CFont* const font = dc.SelectObject(look.font);
-    const int mode = dc.SetBkMode(TRANSPARENT);
-    const COLORREF textColor = dc.SetTextColor(look.textColor);
+    dc.SelectObject(look.font);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(look.textColor);
     CRect text = ButtonTipTextRect(client, MeasureText(dc, look.text, client));
     dc.DrawText(look.text, look.text.GetLength(), &text, DT_WORDBREAK);
-    dc.SetTextColor(textColor);
-    dc.SetBkMode(mode);
-    dc.SelectObject(font);
-    dc.SetBkColor(backColor);
 }

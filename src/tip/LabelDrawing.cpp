@@ -1,5 +1,6 @@
 #include "tip/LabelDrawing.h"
 
+#include "base/SavedDC.h"
 #include "tip/LabelRuns.h"
 
 namespace
@@ -35,36 +36,13 @@ private:
     HFONT m_font;
 };
 
-// Guard: font and mode of a device context are put back.
-class CSavedText
-{
-public:
-    explicit CSavedText(HDC dc)
-        : m_dc(dc), m_font(::GetCurrentObject(dc, OBJ_FONT)), m_mode(::SetBkMode(dc, TRANSPARENT))
-    {
-    }
-
-    ~CSavedText()
-    {
-        ::SetBkMode(m_dc, m_mode);
-        ::SelectObject(m_dc, m_font);
-    }
-
-private:
-    CSavedText(const CSavedText&);
-    CSavedText& operator=(const CSavedText&);
-
-    HDC m_dc;
-    HGDIOBJ m_font;
-    int m_mode;
-};
-
 } // namespace
 
 int DrawLabel(CDC& dc, const wchar_t* text, HFONT normal)
 {
     const CSmallFont small(normal);
-    const CSavedText saved(dc);
+    const CSavedDC saved(dc);
+    dc.SetBkMode(TRANSPARENT);
     ::SelectObject(dc, normal);
     const int lowering = LabelLowering(dc.GetTextExtent(L"o", 1).cy);
     CRect clip;
