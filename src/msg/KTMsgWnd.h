@@ -7,7 +7,11 @@
 // All messages of all modules are kept in one store, in the order in which they were added. Adding never shows
 // anything: the user sees the messages in the message palette after ShowMsgWnd(true) or UpdateMsgWnd().
 // A message is visible in a document when it belongs to that document or to none.
-// Group names are compared without regard to letter case.
+// Group names are compared without regard to letter case, in every script. Texts and names may have any length; what is
+// handed in stays the caller's.
+//
+// The functions may be called while the palette acts upon the drawing, by a reactor for instance. The palette sends its
+// clients nothing: who has to know what the user deleted counts again.
 //
 // Call these functions on the host's user-interface thread only. None of them shows an error to the user; when the
 // memory is exhausted the framework's memory exception comes through.
@@ -35,7 +39,7 @@ enum EMsgType
 //   group           the name under which messages are listed, counted and removed; null is the same as ""
 //   bindToDocument  true: the message belongs to the current document; false: it is visible in every document
 //   objectIds       the objects that it concerns, copied in order; null or empty: none
-//   extents         the area of the drawing that it concerns (drawing units), copied; null: none
+//   extents         the area of the drawing that it concerns (world coordinates, drawing units), copied; null: none
 ZNKT_API bool AddMsg(EMsgType type, const wchar_t* group, const wchar_t* text, bool bindToDocument,
                      const AcArray<AcDbObjectId>* objectIds, const AcDbExtents* extents);
 

@@ -56,20 +56,22 @@ public:
     // Closes the wait dialog and forgets its lines and whether the user cancelled.
     virtual void CloseWaitDlg();
 
-    // The dialog's stack of lines, shown the oldest first.
+    // The dialog's stack of lines, shown the oldest first. Texts are copied; a line feed in one makes two rows of it.
     virtual void WaitDlgPushMsg(const wchar_t* text);
 
     // Takes the top line away and returns it.
     virtual CString WaitDlgPopMsg();
 
+    // The top line, which stays.
     virtual CString WaitDlgGetLastMsg() const;
 
     // Replaces the top line; does not push one.
     virtual void WaitDlgModiLastMsg(const wchar_t* text);
 
+    // Whether the user pressed Cancel since CreateWaitDlg.
     virtual bool IsCanceled() const;
 
-    // The message palette: the functions of KTMsgWnd (msg/KTMsgWnd.h).
+    // The message palette: the functions of KTMsgWnd (msg/KTMsgWnd.h), with the same parameters and results.
     virtual bool MsgWndShow(bool show);
     virtual void MsgWndAddMsg(EMsgType type, const wchar_t* group, const wchar_t* text, bool bindToDocument,
                               const AcArray<AcDbObjectId>* objectIds, const AcDbExtents* extents);

@@ -36,14 +36,17 @@ public:
     // to must not outlive the scope in which both were made.
     CZNMsgObject& operator=(const CZNMsgObject& other);
 
-    // The collection, owned by the tracker.
+    // The collection, oldest report first. It is the tracker's, and good as long as this object lives; null if the
+    // tracker gave none.
     const std::vector<MSGDATA>* Messages() const;
 
+    // Whether there is anything to present.
     bool HasMsg() const;
 
-    // A message box with the caption "Tevrin提示". It says the last message, with "信息:", "警告:" or "错误:" before
-    // it, and behind it the texts of messages of no known type, if those come last. The text goes through the
-    // printf-style MFCUtils::ShowMsg, so %% shows one per cent sign.
+    // A message box with the caption "Tevrin提示" and an OK button, which belongs to `parent`; null: to nobody. It says
+    // the last message, with "信息:", "警告:" or "错误:" before it, and behind it the texts of messages of no known
+    // type, if those come last. The text goes through the printf-style MFCUtils::ShowMsg, so %% shows one per cent
+    // sign.
     void ShowMessageBox(HWND parent);
 
     // The same text through acutPrintf, without a line end before or behind it.

@@ -110,6 +110,19 @@ TEST_F(MessagePalette, DocksAtTheLeftWithoutASavedLayout)
     ExpectViewerFillsThePalette();
 }
 
+// The user double-clicks the caption of the docked set.
+TEST_F(MessagePalette, FloatsAtItsFirstPlaceWithoutASavedLayout)
+{
+    Show();
+    const LPARAM inCaption = MAKELPARAM(30, 6);
+    Set()->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, inCaption);
+    ASSERT_TRUE(Set()->IsFloating());
+    CRect frame;
+    Set()->GetFloatingFrame()->GetWindowRect(&frame);
+    EXPECT_EQ(CRect(200, 200, 840, 390), frame);
+    ExpectViewerFillsThePalette();
+}
+
 TEST_F(MessagePalette, DocksAtEverySideAndFillsIt)
 {
     Show();
@@ -262,11 +275,18 @@ TEST_F(MessagePalette, CreatingAndDestroyingLeavesNoGdiObject)
     EXPECT_EQ(before, CountGdiObjects());
 }
 
-TEST_F(MessagePalette, ResourcesOfTheHostAreCurrentAgainAfterwards)
+// A library without any dialog template stands for the host.
+TEST_F(MessagePalette, FindsItsTemplateWhileTheHostsResourcesAreCurrent)
 {
     const HINSTANCE before = AfxGetResourceHandle();
+    const HINSTANCE host = ::GetModuleHandleW(L"kernel32.dll");
+    AfxSetResourceHandle(host);
+    MessageBoxAnswer answer(IDOK);
     Show();
-    EXPECT_EQ(before, AfxGetResourceHandle());
+    EXPECT_EQ(host, AfxGetResourceHandle()) << "the host's are current again";
+    AfxSetResourceHandle(before);
+    EXPECT_TRUE(answer.Boxes().empty());
+    EXPECT_TRUE(Viewer() != NULL);
 }
 
 TEST_F(MessagePalette, OutlivesTheFrameThatItStoodIn)
