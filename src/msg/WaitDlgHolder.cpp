@@ -52,10 +52,8 @@ CString CWaitDlgHolder::GetLast() const
 
 void CWaitDlgHolder::SetLast(const wchar_t* text)
 {
-    // A copy: the text may be the line that goes.
-    const CString copy(text);
     CutLast();
-    Append(copy);
+    Append(text);
     Refresh();
 }
 

@@ -400,6 +400,20 @@ TEST_F(MsgCallbackImp, AssignmentSharesTheDialogOfTheOther)
     EXPECT_STREQ(L"", source.WaitDlgGetLastMsg());
 }
 
+TEST_F(MsgCallbackImp, AssignmentTakesTheManagerAndTheFormerCallbackOfTheOther)
+{
+    TestCallback outer(&m_manager);
+    TestCallback source(&m_manager);
+    {
+        TestCallback target(NULL);
+        target = source;
+        EXPECT_EQ(2u, m_manager.calls.size()) << "it does not register";
+    }
+    ASSERT_EQ(3u, m_manager.calls.size());
+    EXPECT_EQ(&outer, m_manager.calls[2].callback);
+    m_manager.Register(&source);
+}
+
 TEST_F(MsgCallbackImp, TheOperationsOfThePaletteAreThoseOfTheMessageService)
 {
     arxhost::NewDocument();

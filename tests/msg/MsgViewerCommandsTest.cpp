@@ -174,6 +174,17 @@ TEST_F(ViewerCommands, ZoomGoesToTheAreaAsStored)
     EXPECT_NEAR(150, ViewCentre().y, kTolerance);
 }
 
+TEST_F(ViewerCommands, ZoomGoesToTheAreaOfAMessageThatHasObjectsAsWell)
+{
+    const AcDbExtents area(AcGePoint3d(100, 100, 0), AcGePoint3d(300, 200, 0));
+    const AcArray<AcDbObjectId> ids = Ids(AddLine(AcGePoint3d(0, 0, 0), AcGePoint3d(40, 20, 0)));
+    KTMsgWnd::AddMsg(KTMsgWnd::eInfo, L"g", L"both", true, &ids, &area);
+    Show();
+    Click(IDC_ZOOM);
+    EXPECT_NEAR(200, ViewCentre().x, kTolerance);
+    EXPECT_NEAR(150, ViewCentre().y, kTolerance);
+}
+
 TEST_F(ViewerCommands, ZoomGoesToTheObjectsWithRoomAroundThem)
 {
     AddFour();

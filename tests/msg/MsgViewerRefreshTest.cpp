@@ -228,6 +228,21 @@ TEST_F(ViewerRefresh, SelectingAGroupShowsItsMessagesOnly)
     EXPECT_EQ((Texts{L"1", L"2", L"3"}), Column(3));
 }
 
+TEST_F(ViewerRefresh, WithNothingSelectedInTheTreeAllMessagesAreMeant)
+{
+    Add(L"a", L"1");
+    Add(L"b", L"2");
+    Show();
+    SelectGroup(L"a");
+    TreeView_SelectItem(Item(IDC_TREE), NULL);
+    ASSERT_TRUE(SelectedItem() == NULL);
+    EXPECT_EQ((Texts{L"1", L"2"}), Column(3));
+    Click(IDC_DELETE_SELECTED);
+    EXPECT_EQ(Texts{L"a"}, GroupTexts());
+    KTMsgWnd::UpdateMsgWnd();
+    EXPECT_EQ(Root(), SelectedItem());
+}
+
 TEST_F(ViewerRefresh, UpdateKeepsTheSelectedGroupAndShowsNewOnes)
 {
     Add(L"a", L"1");
