@@ -252,6 +252,17 @@ TEST_F(CheckSpecificationMsgDlg, StaysUpWhileTheCursorRests)
     EXPECT_EQ(TRUE, m_dlg.KillTimer(2));
 }
 
+// It has not come up by its timer yet, so that the place counts as the screen's corner, far from the cursor.
+TEST_F(CheckSpecificationMsgDlg, HidesForGoodByTheDistanceFromWhereItCameUpNotFromWhereTheTextsWereSet)
+{
+    SetMessages({L"a"});
+    m_dlg.ShowWindow(SW_SHOWNA);
+    m_dlg.SetTimer(2, USER_TIMER_MAXIMUM, NULL);
+    Timer(2);
+    EXPECT_FALSE(m_dlg.IsWindowVisible());
+    EXPECT_EQ(FALSE, m_dlg.KillTimer(2));
+}
+
 TEST_F(CheckSpecificationMsgDlg, OtherTimersChangeNothing)
 {
     SetMessages({L"a"});
