@@ -147,7 +147,7 @@ void CMyMenu::DrawItem(LPDRAWITEMSTRUCT drawItem)
 LRESULT CMyMenu::HandleMenuChar(CWnd* pOwner, UINT nChar, UINT)
 {
     UINT id = 0;
-    if (!FindMnemonic(MenuKeyOf(nChar), id))
+    if (pOwner == NULL || !FindMnemonic(MenuKeyOf(nChar), id))
         return 0;
     pOwner->SendMessage(WM_COMMAND, id, 0);
     return MAKELRESULT(0, MNC_CLOSE);

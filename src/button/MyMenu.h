@@ -47,7 +47,7 @@ public:
     virtual void DrawItem(LPDRAWITEMSTRUCT drawItem);
 
     // Sends `pOwner` the WM_COMMAND of the first entry with that mnemonic. The answer is that of WM_MENUCHAR:
-    // MNC_CLOSE in the high word, or 0 where there is no such entry.
+    // MNC_CLOSE in the high word, or 0 where there is no such entry or no owner.
     LRESULT HandleMenuChar(CWnd* pOwner, UINT nChar, UINT nFlags);
 
 private:

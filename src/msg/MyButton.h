@@ -28,8 +28,9 @@ public:
     // frame. Null or a handle that is no bitmap takes the picture away.
     void SetBitmap(HBITMAP bitmap);
 
-    // Pictures for a button with BS_ICON, always and while it is checked. The icons stay the caller's and must live as
-    // long as the button shows them. Null takes them away; a button without an icon shows its caption.
+    // Pictures for a button with BS_ICON, always and while it is checked, from its next drawing on. The icons stay the
+    // caller's and must live as long as the button shows them. Null takes them away; a button without an icon shows its
+    // caption.
     void SetIcon(HICON icon);
     void SetCheckedIcon(HICON icon);
 

@@ -132,6 +132,24 @@ TEST_F(ComboButtonPicture, TheRoundBorderIsOnePixelOfBlue)
     }
 }
 
+TEST_F(ComboButtonPicture, TheRoundBorderHasCornersOfFivePixels)
+{
+    DibCanvas expected(kWidth, kHeight, kBefore);
+    const HPEN pen = ::CreatePen(PS_SOLID, 1, kRound);
+    const HGDIOBJ penBefore = ::SelectObject(expected.Dc(), pen);
+    const HGDIOBJ brushBefore = ::SelectObject(expected.Dc(), ::GetStockObject(NULL_BRUSH));
+    ::RoundRect(expected.Dc(), 0, 0, kWidth, kHeight, 5, 5);
+    ::SelectObject(expected.Dc(), brushBefore);
+    ::SelectObject(expected.Dc(), penBefore);
+    ::DeleteObject(pen);
+    Draw(CBTS_ROUND | CBTS_GRADIENT);
+    for (int y = 0; y < kHeight; ++y)
+    {
+        for (int x = 0; x < kWidth; ++x)
+            ASSERT_EQ(expected.Near(x, y, kRound, 0), m_canvas.Near(x, y, kRound, 0)) << x << ", " << y;
+    }
+}
+
 TEST_F(ComboButtonPicture, TheRaisedAndTheSunkenBorderHaveTheSystemsColours)
 {
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);

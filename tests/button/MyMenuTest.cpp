@@ -222,6 +222,12 @@ TEST_F(MyMenu, OtherCharactersAreIgnored)
     EXPECT_TRUE(m_owner.commands.empty());
 }
 
+TEST_F(MyMenu, WithoutAnOwnerNothingIsChosen)
+{
+    m_menu.AddIconEntry(&m_owner, kOpen, L"&Open", NULL, FALSE);
+    EXPECT_EQ(0, m_menu.HandleMenuChar(NULL, L'o', 0));
+}
+
 TEST_F(MyMenu, ARepeatedMnemonicChoosesOneOfItsEntriesAlwaysTheSame)
 {
     m_menu.AddIconEntry(&m_owner, kOpen, L"&Same", NULL, FALSE);

@@ -40,6 +40,17 @@ protected:
         return m_canvas.Count(label, RGB(0, 0, 0));
     }
 
+    int TextHeight() const
+    {
+        const HDC dc = ::GetDC(m_tree.m_hWnd);
+        const HGDIOBJ before = ::SelectObject(dc, m_tree.GetFont()->GetSafeHandle());
+        TEXTMETRIC metrics = {};
+        ::GetTextMetrics(dc, &metrics);
+        ::SelectObject(dc, before);
+        ::ReleaseDC(m_tree.m_hWnd, dc);
+        return metrics.tmHeight;
+    }
+
     CImageList m_normal;
     CImageList m_added;
     HTREEITEM m_item;
@@ -232,11 +243,25 @@ TEST_F(IconTreePicture, AnUnselectedLabelIsBlackOnWhite)
     EXPECT_GT(m_canvas.Count(label, RGB(0, 0, 0)), 5);
 }
 
-TEST_F(IconTreePicture, TheGroundIsWhiteWhateverTheTreesColour)
+TEST_F(IconTreePicture, TheGroundOfALabelIsWhiteWhateverTheTreesColour)
 {
     m_tree.SetBkColor(RGB(200, 255, 200));
     Paint(m_canvas);
     EXPECT_TRUE(m_canvas.Near(Label(m_item).left + 1, Label(m_item).top + 1, kWhite));
+}
+
+TEST_F(IconTreePicture, TheLabelStandsInTheMiddleOfAHighItem)
+{
+    m_tree.SetItemHeight(60);
+    Paint(m_canvas);
+    const CRect label = Label(m_item);
+    int first = label.top;
+    while (first < label.bottom && m_canvas.Count(CRect(label.left, first, label.right, first + 1), RGB(0, 0, 0)) == 0)
+        ++first;
+    const int textHeight = TextHeight();
+    ASSERT_LT(textHeight, 30);
+    EXPECT_GE(first, label.CenterPoint().y - textHeight / 2 - 1);
+    EXPECT_LT(first, label.CenterPoint().y);
 }
 
 TEST_F(IconTreePicture, AnAmpersandIsShown)

@@ -298,6 +298,25 @@ TEST_F(StateTreeClicks, TheOwnerMayDeleteTheItemInTheCheckChange)
     EXPECT_EQ((Ints{1, 1}), Values({m_children[1], m_children[2]}));
 }
 
+// The native tree gives the place of a deleted item, and with it its handle, to a later one.
+TEST_F(StateTreeClicks, AnItemThatComesInThePlaceOfTheDeletedOneKeepsItsValue)
+{
+    HTREEITEM later = NULL;
+    m_owner.onTold = [&](const StateTreeOwner::Told& one) {
+        if (one.code != STATETREEN_CHECKCHANGED)
+            return;
+        m_tree.DeleteItem(one.item);
+        for (int i = 0; i < 1000 && later != one.item; ++i)
+            later = m_tree.InsertItem(L"later", m_root);
+        m_owner.onTold = nullptr;
+    };
+    const HTREEITEM deleted = m_children[0];
+    ClickBox(deleted);
+    if (later != deleted)
+        GTEST_SKIP() << "no later item got the handle";
+    EXPECT_EQ(STATE_UNCHECKED, Value(later));
+}
+
 TEST_F(StateTreeClicks, TheOwnerMayDeleteTheItemInTheClick)
 {
     m_owner.onTold = [&](const StateTreeOwner::Told& one) {
