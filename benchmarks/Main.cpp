@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -63,29 +64,32 @@ bool IsWanted(const char* name, const std::vector<std::string>& wanted)
     return wanted.empty() || std::find(wanted.begin(), wanted.end(), name) != wanted.end();
 }
 
-// Answers how many subjects were measured.
-int MeasureSubjects(bench::Report& report, const std::vector<std::string>& wanted)
+bool IsSubject(const std::string& name)
 {
-    int count = 0;
+    return std::any_of(std::begin(kSubjects), std::end(kSubjects),
+                       [&](const Subject& subject) { return name == subject.name; });
+}
+
+void ListSubjects(const std::string& unknown)
+{
+    std::fprintf(stderr, "error: nothing to measure is named %s; there are:\n", unknown.c_str());
     for (const Subject& subject : kSubjects)
-    {
-        if (!IsWanted(subject.name, wanted))
-            continue;
-        subject.measure(report);
-        ++count;
-    }
-    return count;
+        std::fprintf(stderr, "  %s\n", subject.name);
 }
 
 int Measure(const char* path, const std::vector<std::string>& wanted)
 {
-    bench::Report report;
-    if (MeasureSubjects(report, wanted) == 0)
+    const auto unknown = std::find_if_not(wanted.begin(), wanted.end(), &IsSubject);
+    if (unknown != wanted.end())
     {
-        std::fprintf(stderr, "error: nothing to measure has one of these names; there are:\n");
-        for (const Subject& subject : kSubjects)
-            std::fprintf(stderr, "  %s\n", subject.name);
+        ListSubjects(*unknown);
         return 1;
+    }
+    bench::Report report;
+    for (const Subject& subject : kSubjects)
+    {
+        if (IsWanted(subject.name, wanted))
+            subject.measure(report);
     }
     report.Print();
     if (path != nullptr && !report.WriteJson(path))

@@ -18,27 +18,69 @@ missing_packages() {
   done
 }
 
+# What is needed and not here, for machines whose packages are not Debian's.
+missing_programs() {
+  local program
+  for program in cmake ninja x86_64-w64-mingw32-g++-posix Xvfb flock; do
+    command -v "$program" >/dev/null || printf '%s ' "$program"
+  done
+  [ -x /usr/lib/wine/wine64 ] || command -v wine64 >/dev/null || command -v wine >/dev/null || printf 'wine '
+  [ -d /usr/src/googletest ] || printf '/usr/src/googletest '
+}
+
 install_packages() {
-  command -v apt-get >/dev/null || fail "apt-get is not here. Install by hand: $ZNKT_PACKAGES"
   local missing sudo=
+  if ! command -v apt-get >/dev/null; then
+    missing=$(missing_programs)
+    [ -z "$missing" ] || fail "this machine has no apt-get, and these are missing: ${missing% }. Install them by hand; Debian's packages are: $(echo $ZNKT_PACKAGES)"
+    return 0
+  fi
   missing=$(missing_packages)
   [ -n "$missing" ] || return 0
+  missing=${missing% }
   step "installing: $missing"
   if [ "$(id -u)" != 0 ]; then
     command -v sudo >/dev/null || fail "these packages are missing and sudo is not here. As root: apt-get install $missing"
+    sudo -v || fail "sudo does not let you install packages. As root: apt-get install $missing"
     sudo=sudo
   fi
-  $sudo apt-get update -qq || fail "the package list could not be read. Is the network up?"
+  # Whether the lists could be read shows in what can be installed: apt-get may have old ones.
+  $sudo apt-get update -qq || step "the package lists could not be read"
   # shellcheck disable=SC2086
   $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null ||
-    fail "apt-get could not install: $missing"
+    fail "apt-get could not install: $missing (its messages are above). Is the network up? The names are those of Debian 12."
+}
+
+# Words to add to a failure when the disk is the likely reason.
+disk_hint() {
+  local free
+  free=$(df -Pm "$ZNKT_BUILD" 2>/dev/null | awk 'NR == 2 { print $4 }')
+  [ "${free:-1000}" -ge 100 ] || printf ' The disk is nearly full: %s MB are left for %s.' "$free" "$ZNKT_BUILD"
+}
+
+# writable_folder PATH [hint]: makes the folder; a run that cannot write must not end in the middle.
+writable_folder() {
+  { mkdir -p "$1" && [ -w "$1" ]; } 2>/dev/null || fail "cannot write into $1.${2:+ $2}$(disk_hint)"
+}
+
+need_cmake() {
+  local least=3.22 version
+  version=$(cmake --version | sed -n 's/^cmake version //p')
+  printf '%s\n%s\n' "$least" "$version" | sort -VC ||
+    fail "cmake $least or newer is needed, this is $version ($(command -v cmake)). Debian 12 and Ubuntu 22.04 have a newer one."
 }
 
 configure_and_build() {
+  need_cmake
+  writable_folder "$ZNKT_BUILD" "Work in a folder of your own, or name another build folder: ZNKT_BUILD=/path $0"
+  # Two runs would build into each other's files.
+  exec 7>"$ZNKT_BUILD/build.lock"
+  flock -n 7 || { step "waiting for another run that builds in $ZNKT_BUILD"; flock 7; }
   step "configuring"
-  cmake --preset bundled -S "$ZNKT_ROOT" -B "$ZNKT_BUILD" >"$ZNKT_BUILD.configure.log" 2>&1 ||
-    { cat "$ZNKT_BUILD.configure.log" >&2; fail "cmake could not configure (log above)"; }
-  rm -f "$ZNKT_BUILD.configure.log"
+  cmake --preset bundled -S "$ZNKT_ROOT" -B "$ZNKT_BUILD" >"$ZNKT_BUILD/configure.log" 2>&1 7>&- ||
+    { cat "$ZNKT_BUILD/configure.log" >&2; fail "cmake could not configure (log above).$(disk_hint)"; }
+  rm -f "$ZNKT_BUILD/configure.log"
   step "building"
-  cmake --build "$ZNKT_BUILD" -- "$@" || fail "the build failed (messages above)"
+  cmake --build "$ZNKT_BUILD" -- "$@" 7>&- || fail "the build failed (messages above).$(disk_hint)"
+  exec 7>&-
 }

@@ -24,6 +24,15 @@ bool IsSwitch(const std::wstring& argument)
 
 } // namespace
 
+std::wstring ArgumentHelp()
+{
+    return L"用法：arxhost [图形.dxf ...] [/ld 模块.arx ...] [/c 命令] [/b 脚本.scr]\n"
+           L"  图形.dxf   打开图形，可以有多个\n"
+           L"  /ld 模块   加载模块，可以重复\n"
+           L"  /c 命令    开始时运行一条命令\n"
+           L"  /b 脚本    逐行运行脚本然后结束，有一行不成功时返回 1\n";
+}
+
 HostArguments ReadArguments(const std::vector<std::wstring>& arguments)
 {
     HostArguments read;
@@ -35,6 +44,11 @@ HostArguments ReadArguments(const std::vector<std::wstring>& arguments)
             continue;
         }
         const std::wstring name = Lower(arguments[i].substr(1));
+        if (name == L"?" || name == L"help" || name == L"h")
+        {
+            read.help = true;
+            return read;
+        }
         const bool hasValue = i + 1 < arguments.size() && !IsSwitch(arguments[i + 1]);
         std::wstring* const single = name == L"b" ? &read.script : name == L"c" ? &read.command : nullptr;
         if (name != L"ld" && single == nullptr)

@@ -1,4 +1,5 @@
 ﻿// OPEN NEW CLOSE ZOOM PAN SELECT ERASE MSLIDE HOVER: commands on drawings.
+#include "arx/ed/FileTrouble.h"
 #include "host/DialogSearch.h"
 #include "host/DrawingFrame.h"
 #include "host/DrawingView.h"
@@ -200,7 +201,7 @@ void MakeSlide(MainFrame& frame, const Words& words)
     view.GetClientRect(&client);
     SlideRecorder recorder(view.Transform(), client.Width(), client.Height());
     if (!WriteBytes(path, recorder.Record(view.List())))
-        throw CommandFailure{L"无法写入幻灯片“" + path + L"”。"};
+        throw CommandFailure{L"无法写入幻灯片“" + path + L"”：" + WriteTrouble(path) + L"。"};
     frame.Command().Print(L"幻灯片已保存：" + path + L"\n");
 }
 

@@ -1,5 +1,6 @@
 ﻿#include "host/FrameShot.h"
 
+#include "arx/ed/FileTrouble.h"
 #include "arx/ui/GdiGuards.h"
 #include "host/DialogSearch.h"
 
@@ -138,7 +139,7 @@ std::wstring SaveScreenShot(const CRect& area, const std::wstring& path)
     const arxui::GdiObject<HBITMAP> shot(CopyScreen(area));
     Gdiplus::Bitmap picture(shot.Get(), nullptr);
     if (picture.Save(path.c_str(), &encoder, nullptr) != Gdiplus::Ok)
-        return L"无法写入图片“" + path + L"”。";
+        return L"无法写入图片“" + path + L"”：" + WriteTrouble(path) + L"。";
     return std::wstring();
 }
 

@@ -60,12 +60,13 @@ BOOL HostApp::InitInstance()
     SetRegistryKey(registryKey);
     InitAcUiDLL();
     const HostArguments arguments = ReadArguments(ProgramArguments());
-    if (arguments.error.empty() && Start(arguments))
-        return TRUE;
-    m_exitCode = failureCode;
+    if (arguments.help)
+        return EndWith(ArgumentHelp(), 0);
     if (!arguments.error.empty())
-        WriteStandardOutput(L"错误：" + arguments.error + L"\n");
-    return FALSE;
+        return EndWith(L"错误：" + arguments.error + L"。\n" + ArgumentHelp(), failureCode);
+    if (!Start(arguments))
+        return EndWith(L"错误：无法创建主窗口。请检查是否有可用的显示器。\n", failureCode);
+    return TRUE;
 }
 
 BOOL HostApp::OnIdle(LONG count)
@@ -82,6 +83,15 @@ int HostApp::ExitInstance()
 {
     CWinApp::ExitInstance();
     return m_exitCode;
+}
+
+BOOL HostApp::EndWith(const std::wstring& message, int code)
+{
+    m_exitCode = code;
+    // Whoever double-clicks has no output to read.
+    if (!WriteStandardOutput(message))
+        MessageBoxW(nullptr, message.c_str(), programName, code == 0 ? MB_ICONINFORMATION : MB_ICONWARNING);
+    return FALSE;
 }
 
 bool HostApp::Start(const HostArguments& arguments)

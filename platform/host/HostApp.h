@@ -22,6 +22,8 @@ public:
     int ExitInstance() override;
 
 private:
+    // Tells the user why the program ends before it began; answers what InitInstance has to.
+    BOOL EndWith(const std::wstring& message, int code);
     bool Start(const HostArguments& arguments);
     void Attempt(const std::function<void()>& step);
     void RunScripts();

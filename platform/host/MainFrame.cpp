@@ -89,7 +89,7 @@ DrawingView& MainFrame::NeedView()
 {
     DrawingView* view = ActiveView();
     if (view == NULL)
-        throw CommandFailure{L"没有打开的图形。"};
+        throw CommandFailure{L"没有打开的图形。请先用 OPEN 或 NEW。"};
     return *view;
 }
 
@@ -148,7 +148,7 @@ void MainFrame::LoadModule(const std::wstring& name)
         return;
     }
     if (!acrxLoadModule(name.c_str(), true))
-        throw CommandFailure{L"模块“" + name + L"”加载失败。"};
+        throw CommandFailure{L"模块“" + name + L"”加载失败，原因见上一行。"};
 }
 
 void MainFrame::StartScript(const std::wstring& path)

@@ -33,7 +33,7 @@ CAdUiPaletteSet& NeedPaletteSet()
 {
     CAdUiPaletteSet* set = CurrentPaletteSet();
     if (set == NULL)
-        throw CommandFailure{L"没有面板。"};
+        throw CommandFailure{L"没有面板。先运行会显示面板的模块命令。"};
     return *set;
 }
 

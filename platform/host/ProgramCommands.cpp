@@ -33,9 +33,9 @@ void ListModules(MainFrame& frame)
 void UnloadModule(const std::wstring& name)
 {
     if (!acrxAppIsLoaded(name.c_str()))
-        throw CommandFailure{L"没有加载模块“" + name + L"”。"};
+        throw CommandFailure{L"没有加载模块“" + name + L"”。ARX ? 列出已加载的模块。"};
     if (!acrxUnloadModule(name.c_str(), true))
-        throw CommandFailure{L"模块“" + name + L"”不能卸载。"};
+        throw CommandFailure{L"模块“" + name + L"”不能卸载：它被锁定、正由其他模块使用，或者拒绝结束。"};
 }
 
 void Arx(MainFrame& frame, const Words& words)

@@ -1,5 +1,6 @@
 ﻿#include "host/ScriptRunner.h"
 
+#include "arx/ed/FileTrouble.h"
 #include "host/FileBytes.h"
 
 #include <windows.h>
@@ -12,7 +13,7 @@ bool ScriptRunner::Load(const std::wstring& path, std::wstring& error)
     std::string bytes;
     if (!ReadFileBytes(path, bytes))
     {
-        error = L"无法读取脚本“" + path + L"”。";
+        error = L"无法读取脚本“" + path + L"”：" + ReadTrouble(path) + L"。";
         return false;
     }
     Add(path, DecodeText(bytes));

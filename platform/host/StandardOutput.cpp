@@ -17,14 +17,14 @@ std::string ToUtf8(const std::wstring& text)
 
 } // namespace
 
-void WriteStandardOutput(const std::wstring& text)
+bool WriteStandardOutput(const std::wstring& text)
 {
     const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
     if (output == nullptr || output == INVALID_HANDLE_VALUE || text.empty())
-        return;
+        return false;
     const std::string bytes = ToUtf8(text);
     DWORD written = 0;
-    WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    return WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE;
 }
 
 } // namespace arxhost

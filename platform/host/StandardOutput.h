@@ -7,7 +7,7 @@
 namespace arxhost
 {
 
-// Writes the text as UTF-8; nothing without a standard output.
-void WriteStandardOutput(const std::wstring& text);
+// Writes the text as UTF-8. False when there is no standard output.
+bool WriteStandardOutput(const std::wstring& text);
 
 } // namespace arxhost

@@ -4,6 +4,7 @@
 #include "DxfError.h"
 #include "DxfImport.h"
 #include "DxfParser.h"
+#include "arx/ed/FileTrouble.h"
 
 #include <algorithm>
 #include <cctype>
@@ -31,7 +32,7 @@ std::string ReadWholeFile(const wchar_t* path)
     std::ifstream file(std::filesystem::path(name), std::ios::binary | std::ios::ate);
     if (!file)
     {
-        throw DxfError{0, L"无法打开文件：" + name};
+        throw DxfError{0, L"无法打开文件：" + name + L"（" + arxhost::ReadTrouble(name) + L"）"};
     }
     const std::streamoff size = file.tellg();
     std::string data(static_cast<size_t>(std::max<std::streamoff>(size, 0)), '\0');

@@ -2,6 +2,7 @@
 
 #include "CommandRunner.h"
 #include "DocumentManager.h"
+#include "FileTrouble.h"
 #include "HostState.h"
 #include "SelectionSets.h"
 #include "arx/db/Visibility.h"
@@ -96,7 +97,7 @@ AcApDocument* OpenDocument(const wchar_t* path, OpenResult& result)
     const std::wstring fullPath = FullPath(path == nullptr ? L"" : path);
     if (!IsFile(fullPath))
     {
-        Fail(result, Acad::eFileNotFound, L"找不到文件“" + fullPath + L"”。");
+        Fail(result, Acad::eFileNotFound, ReadTrouble(fullPath) + L"：“" + fullPath + L"”。");
         return nullptr;
     }
     if (Document* open = DocumentManager::Instance().FindFile(fullPath))

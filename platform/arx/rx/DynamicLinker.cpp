@@ -29,6 +29,20 @@ void TellDrawings(const ModuleFile& file, AcRx::AppMsgCode message)
     }
 }
 
+std::wstring NotFoundText(const std::wstring& name, const std::vector<std::wstring>& folders)
+{
+    if (!FolderOf(name).empty() || name.empty())
+    {
+        return L"找不到文件";
+    }
+    std::wstring text = L"找不到文件，找过的文件夹：";
+    for (size_t i = 0; i < folders.size(); ++i)
+    {
+        text += (i == 0 ? L"" : L"、") + folders[i];
+    }
+    return text;
+}
+
 } // namespace
 
 DynamicLinker& DynamicLinker::Instance()
@@ -74,7 +88,7 @@ bool DynamicLinker::LoadNew(const std::wstring& name, std::wstring& reason)
     const std::wstring path = FindModuleFile(name, SearchFolders());
     if (path.empty())
     {
-        reason = L"找不到文件";
+        reason = NotFoundText(name, SearchFolders());
         return false;
     }
     m_reactors.Tell([&](AcRxDLinkerReactor& reactor) { reactor.rxAppWillBeLoaded(path.c_str()); });
@@ -101,7 +115,7 @@ bool DynamicLinker::Start(ModulePtr starting, std::wstring& reason)
     if (!accepted)
     {
         arxed::CommandStack::Instance().RemoveFrom(owned->file);
-        reason = L"它拒绝启动";
+        reason = L"它拒绝启动（对初始化消息答复了错误）";
         return false;
     }
     // Behind the modules that it loaded itself, so that it is told to end before them.

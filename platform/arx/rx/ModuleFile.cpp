@@ -1,6 +1,7 @@
 ﻿#include "ModuleFile.h"
 
 #include "ApiVersion.h"
+#include "LoadFailure.h"
 
 namespace arxrx
 {
@@ -37,22 +38,16 @@ private:
     UINT m_previous;
 };
 
-std::wstring LoadFailure(DWORD error)
+// Lets the modules of every folder find the libraries of the program's own. The load with the module's folder in place
+// of the program's leaves them out where they are not in memory yet.
+class ProgramLibraries
 {
-    switch (error)
-    {
-    case ERROR_MOD_NOT_FOUND:
-        return L"缺少它所依赖的文件";
-    case ERROR_PROC_NOT_FOUND:
-        return L"它所依赖的文件版本不符";
-    case ERROR_BAD_EXE_FORMAT:
-        return L"它不是 64 位程序模块";
-    case ERROR_DLL_INIT_FAILED:
-        return L"它的初始化失败";
-    default:
-        return L"系统错误 " + std::to_wstring(error);
-    }
-}
+public:
+    ProgramLibraries() { SetDllDirectoryW(ProgramFolder().c_str()); }
+    ~ProgramLibraries() { SetDllDirectoryW(nullptr); }
+    ProgramLibraries(const ProgramLibraries&) = delete;
+    ProgramLibraries& operator=(const ProgramLibraries&) = delete;
+};
 
 template<class Function>
 Function AddressOf(HMODULE library, const char* name)
@@ -125,19 +120,19 @@ bool ModuleFile::Open(const std::wstring& path, std::wstring& reason)
     const auto version = AddressOf<AcRxApiVersionQuery>(m_library, "acrxGetApiVersion");
     if (version == nullptr)
     {
-        reason = L"它没有版本查询函数 acrxGetApiVersion";
+        reason = L"它没有版本查询函数 acrxGetApiVersion，不是为本主机编译的模块";
         return false;
     }
     if (version() != kApiVersion)
     {
         reason = L"它为接口版本 " + std::to_wstring(version()) + L" 编译，本程序的接口版本是 " +
-                 std::to_wstring(kApiVersion);
+                 std::to_wstring(kApiVersion) + L"，请用本程序的开发包重新编译";
         return false;
     }
     m_entry = AddressOf<AcRxAppEntryPoint>(m_library, "acrxEntryPoint");
     if (m_entry == nullptr)
     {
-        reason = L"它没有入口点 acrxEntryPoint";
+        reason = L"它没有入口点 acrxEntryPoint，源文件中可能缺少 IMPLEMENT_ARX_ENTRYPOINT";
         return false;
     }
     return true;
@@ -146,10 +141,11 @@ bool ModuleFile::Open(const std::wstring& path, std::wstring& reason)
 bool ModuleFile::LoadFile(const std::wstring& path, std::wstring& reason)
 {
     const QuietErrors quiet;
+    const ProgramLibraries libraries;
     m_library = LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (m_library == nullptr)
     {
-        reason = LoadFailure(GetLastError());
+        reason = LoadFailure(path, GetLastError());
         return false;
     }
     return true;

@@ -47,7 +47,7 @@ TEST(DxfFaults, MissingFileNamesThePath)
     AcDbDatabase database(true);
     arxdxf::DxfResult result;
     EXPECT_FALSE(arxdxf::ReadDxf(L"C:\\no such folder\\a.dxf", database, result));
-    EXPECT_EQ(result.error, L"无法打开文件：C:\\no such folder\\a.dxf");
+    EXPECT_EQ(result.error, L"无法打开文件：C:\\no such folder\\a.dxf（找不到文件）");
 }
 
 TEST(DxfFaults, BinaryDxf)

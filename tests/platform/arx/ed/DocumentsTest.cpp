@@ -287,7 +287,7 @@ TEST_F(Documents, MissingFileIsNotOpened)
     arxhost::OpenResult result;
     EXPECT_EQ(arxhost::OpenDocument(L"C:\\no such folder\\drawing.dxf", result), nullptr);
     EXPECT_EQ(result.status, Acad::eFileNotFound);
-    EXPECT_EQ(result.message, L"找不到文件“C:\\no such folder\\drawing.dxf”。");
+    EXPECT_EQ(result.message, L"找不到文件：“C:\\no such folder\\drawing.dxf”。");
     EXPECT_EQ(arxhost::OpenDocument(nullptr, result), nullptr);
     EXPECT_EQ(acDocManager->documentCount(), 0);
     EXPECT_EQ(acDocManager->appContextOpenDocument(L"C:\\none.dxf"), Acad::eFileNotFound);

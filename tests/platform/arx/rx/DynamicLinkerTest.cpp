@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 
@@ -120,7 +122,53 @@ TEST_F(Loader, SharedModuleStaysForTheOther)
 TEST_F(Loader, MissingFileIsReported)
 {
     EXPECT_FALSE(acrxLoadModule(L"NoSuchModule.arx", true));
-    EXPECT_EQ(Take(), L"\n无法加载模块 NoSuchModule.arx：找不到文件。\n");
+    const std::wstring text = Take();
+    EXPECT_EQ(text.find(L"\n无法加载模块 NoSuchModule.arx：找不到文件，找过的文件夹："), 0u)
+        << "it says where it looked";
+    wchar_t program[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    *(wcsrchr(program, L'\\') + 1) = L'\0';
+    EXPECT_NE(text.find(program), std::wstring::npos);
+    EXPECT_FALSE(acrxLoadModule(L"C:\\no such folder\\a.arx", true));
+    EXPECT_EQ(Take(), L"\n无法加载模块 C:\\no such folder\\a.arx：找不到文件。\n");
+}
+
+TEST_F(Loader, FileThatIsNoModuleIsToldFromOneOf32Bit)
+{
+    struct Row
+    {
+        const char* name;
+        std::string bytes;
+        const wchar_t* words;
+    };
+    // The headers of a 32-bit program: mark, offset of the second header, machine.
+    std::string small(0x100, '\0');
+    small.replace(0, 2, "MZ");
+    small[0x3C] = '\x40';
+    small.replace(0x40, 6, std::string("PE\0\0\x4C\x01", 6));
+    const Row rows[] = {
+        {"a text", "hello, this is no module", L"不是程序模块"},
+        {"an empty file", "", L"不是程序模块"},
+        {"a module of 32 bit", small, L"不是 64 位模块"},
+    };
+    for (const Row& row : rows)
+    {
+        wchar_t path[MAX_PATH] = L"";
+        GetTempPathW(MAX_PATH, path);
+        wcscat(path, L"loader_test.arx");
+        std::ofstream(std::filesystem::path(path), std::ios::binary) << row.bytes;
+        EXPECT_FALSE(acrxLoadModule(path, true)) << row.name;
+        EXPECT_NE(Take().find(row.words), std::wstring::npos) << row.name;
+        DeleteFileW(path);
+    }
+}
+
+TEST_F(Loader, MissingDllIsNamed)
+{
+    EXPECT_FALSE(acrxLoadModule(L"LoaderNeedy.arx", true));
+    const std::wstring text = Take();
+    EXPECT_NE(text.find(L"缺少它所依赖的文件 LoaderGone.dll"), std::wstring::npos);
+    EXPECT_NE(text.find(L"请把该文件放到"), std::wstring::npos) << "it says what to do";
 }
 
 TEST_F(Loader, FailureIsSilentUnlessPrintingIsAskedFor)
@@ -157,7 +205,7 @@ TEST_F(Loader, ModuleOfAnotherGenerationIsRefusedBeforeItStarts)
 TEST_F(Loader, ModuleThatRefusesToStartIsUnloadedWithItsCommands)
 {
     EXPECT_FALSE(acrxLoadModule(L"LoaderRefusing.arx", true));
-    EXPECT_EQ(Take(), L"Refusing:1 \n无法加载模块 LoaderRefusing.arx：它拒绝启动。\n");
+    EXPECT_EQ(Take(), L"Refusing:1 \n无法加载模块 LoaderRefusing.arx：它拒绝启动（对初始化消息答复了错误）。\n");
     EXPECT_FALSE(acrxAppIsLoaded(L"LoaderRefusing.arx"));
     EXPECT_EQ(GetModuleHandleW(L"LoaderRefusing.arx"), nullptr);
     EXPECT_FALSE(arxhost::ExecuteCommand(L"REFUSINGCMD"));
