@@ -102,6 +102,25 @@ TEST_F(ViewerInput, TabReachesTheButtonsAndTheSpaceBarPressesThem)
     EXPECT_TRUE(hasFocus(IDC_TREE));
 }
 
+TEST_F(ViewerInput, ATipComesUpWhenTheMouseRestsOnAButton)
+{
+    const auto isTipShown = [] {
+        HWND tip = NULL;
+        while ((tip = ::FindWindowExW(NULL, tip, TOOLTIPS_CLASSW, NULL)) != NULL)
+        {
+            if (::IsWindowVisible(tip) && ::GetWindowThreadProcessId(tip, NULL) == ::GetCurrentThreadId())
+                return true;
+        }
+        return false;
+    };
+    // A first move away, so that there is one onto the button.
+    const CPoint button = CentreOfItem(IDC_DELETE_SELECTED);
+    SendMouse(button + CPoint(0, 200), 0);
+    EXPECT_FALSE(isTipShown());
+    SendMouse(button, 0);
+    EXPECT_TRUE(WaitThroughFramework(isTipShown));
+}
+
 TEST_F(ViewerInput, ControlClickAddsARow)
 {
     ASSERT_TRUE(SelectByClick(0));

@@ -110,7 +110,9 @@ TEST_F(MsgTracker, ARecordHoldsWhatWasReported)
     ids.append(AcDbObjectId());
     const AcDbExtents extents(AcGePoint3d(1, 2, 0), AcGePoint3d(3, 4, 0));
     m_tracker.PushMSGCLCT();
+    const CString before = CTime::GetCurrentTime().Format(L"%H:%M:%S");
     m_tracker.AddMsg(CMsgCallback::eError, L"group", L"text", true, &ids, &extents);
+    const CString after = CTime::GetCurrentTime().Format(L"%H:%M:%S");
     m_tracker.AddMsg(CMsgCallback::eWarning, nullptr, L"plain", false, nullptr, nullptr);
     const MSGDATA& full = m_tracker.GetMSGCLCT(0)->at(0);
     const MSGDATA& plain = m_tracker.GetMSGCLCT(0)->at(1);
@@ -118,7 +120,7 @@ TEST_F(MsgTracker, ARecordHoldsWhatWasReported)
     EXPECT_EQ(CMsgCallback::eError, full.type);
     EXPECT_STREQ(L"group", full.group);
     EXPECT_STREQ(L"text", full.text);
-    EXPECT_EQ(8, full.time.GetLength()) << full.time.GetString();
+    EXPECT_TRUE(full.time == before || full.time == after) << full.time.GetString();
     EXPECT_EQ(1, full.objectIds.length());
     EXPECT_TRUE(full.hasExtents);
     EXPECT_EQ(3, full.extents.maxPoint().x);

@@ -114,6 +114,16 @@ TEST(WaitLayout, HasRoomForOneLineFromTheStart)
     EXPECT_EQ(LayOut(MetricsOf(96), 1).size.cy, LayOut(MetricsOf(96), 0).size.cy);
 }
 
+TEST(WaitLayout, GrowsWithTheResolutionOfTheScreen)
+{
+    EXPECT_EQ(15, Scaled(10, 144));
+    const Layout usual = LayOut(MetricsOf(96), 2);
+    const Layout fine = LayOut(MetricsOf(192), 2);
+    EXPECT_EQ(2 * usual.size.cx, fine.size.cx);
+    EXPECT_EQ(2 * usual.size.cy, fine.size.cy);
+    EXPECT_EQ(2 * usual.cancel.top, fine.cancel.top);
+}
+
 TEST(WaitLayout, PlacesNothingOverAnotherThing)
 {
     for (int dpi : {96, 120, 144, 192})
