@@ -155,6 +155,18 @@ TEST_F(MyButtonPixel, MovesDrawNoHoverFrameWhileTheButtonIsHeld)
     EXPECT_TRUE(ShowsRaised()) << "and again after the release";
 }
 
+TEST_F(MyButtonPixel, AHeldButtonThatTheMouseLeftMayBeHoveredAgain)
+{
+    Create(0);
+    m_button.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    m_button.UpdateWindow();
+    m_button.SendMessage(WM_MOUSELEAVE);
+    EXPECT_TRUE(ShowsFlat());
+    MoveTo(6, 6);
+    EXPECT_TRUE(ShowsRaised());
+    m_button.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(6, 6));
+}
+
 TEST_F(MyButtonPixel, LosingTheFocusMakesItFlat)
 {
     Create(0);
@@ -231,6 +243,17 @@ TEST_F(MyButtonPixel, AButtonThatIsNoIconButtonShowsNoIcon)
     const TestIcon icon(kRed, 16);
     Create(0, L"W");
     m_button.SetIcon(icon);
+    Draw(0);
+    EXPECT_EQ(0, m_canvas.Count(Inside(), kRed));
+    EXPECT_GT(Drawn(), 0) << "the caption";
+}
+
+TEST_F(MyButtonPixel, AButtonThatIsNoBitmapButtonShowsNoBitmap)
+{
+    const HBITMAP bitmap = MakeBitmap(DibCanvas(10, 8, kRed));
+    Create(0, L"W");
+    m_button.SetBitmap(bitmap);
+    ::DeleteObject(bitmap);
     Draw(0);
     EXPECT_EQ(0, m_canvas.Count(Inside(), kRed));
     EXPECT_GT(Drawn(), 0) << "the caption";
