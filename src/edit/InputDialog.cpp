@@ -52,6 +52,8 @@ bool CInputDialog::OnCancel()
 
 bool CInputDialog::Input(CString& value)
 {
+    if (m_dialog->GetSafeHwnd() != NULL)
+        return false; // it is asking already
     CModuleResources resources;
     if (m_dialog->DoModal() != IDOK)
         return false;

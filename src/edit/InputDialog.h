@@ -40,8 +40,8 @@ public:
     virtual bool OnOk(CString& value);
     virtual bool OnCancel();
 
-    // Shows the dialog until the user closes it. True: the user said OK, and `value` is the text; otherwise `value` is
-    // left alone. Can be called again.
+    // Shows the dialog until the user closes it, or until its window is destroyed. True: the user said OK, and `value`
+    // is the text; otherwise `value` is left alone. Can be called again, but not while it is shown.
     bool Input(CString& value);
 
     // The dialog and its controls, for the functions above; valid only while it is open.

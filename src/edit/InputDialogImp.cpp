@@ -1,9 +1,14 @@
 #include "edit/InputDialogImp.h"
 
+#include "base/WindowWatch.h"
 #include "edit/InputDialog.h"
 #include "res/resource.h"
 
 IMPLEMENT_DYNAMIC(CInputDialogImp, CDialog)
+
+BEGIN_MESSAGE_MAP(CInputDialogImp, CDialog)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
 
 CInputDialogImp::CInputDialogImp(CInputDialog& owner, CWnd* parent) : CDialog(IDD_INPUT, parent), m_owner(owner) {}
 
@@ -26,7 +31,8 @@ BOOL CInputDialogImp::OnInitDialog()
 
 void CInputDialogImp::OnOK()
 {
-    if (!UpdateData(TRUE) || !m_owner.OnOk(m_value))
+    const CWindowWatch watch(*this);
+    if (!UpdateData(TRUE) || !m_owner.OnOk(m_value) || watch.IsGone())
         return;
     UpdateData(FALSE);
     // Not by way of the base class, which would read the edit once more.
@@ -35,6 +41,16 @@ void CInputDialogImp::OnOK()
 
 void CInputDialogImp::OnCancel()
 {
-    if (m_owner.OnCancel())
+    const CWindowWatch watch(*this);
+    if (m_owner.OnCancel() && !watch.IsGone())
         CDialog::OnCancel();
+}
+
+// A window that goes down with its parent, or by a hook, takes the question with it: nobody else would end the loop
+// that waits for the answer.
+void CInputDialogImp::OnDestroy()
+{
+    if (ContinueModal())
+        EndModalLoop(IDCANCEL);
+    CDialog::OnDestroy();
 }

@@ -22,6 +22,9 @@ protected:
     virtual void OnOK();
     virtual void OnCancel();
 
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
 private:
     CString m_value;
     CInputDialog& m_owner;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/PlainNumber.h"
 #include "base/WindowWatch.h"
 #include "edit/CharTable.h"
 #include "edit/EditBrush.h"
@@ -14,13 +13,8 @@ namespace
 
 const int kLengthLimit = 65535;
 const double kDefaultPrecision = 0.0001;
-const int kMaxTipWidth = 400;
-const UINT_PTR kTipTool = 1;
 const UINT kAnswerMilliseconds = 1;
 
-const wchar_t kTipFormat[] = L"最小值:%s\n最大值:%s\n默认值:%s";
-const wchar_t kTipNumberFormat[] = L"%g";
-const wchar_t kTipFailure[] = L"Create ToolTip Error!";
 const wchar_t kFailureCaption[] = L"错误";
 
 // Commands of a context menu that an owner may show for the edit.
@@ -46,6 +40,7 @@ BEGIN_MESSAGE_MAP(CSuperEdit, CEdit)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_MOUSEMOVE()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CSuperEdit::CSuperEdit()
@@ -119,27 +114,6 @@ COLORREF CSuperEdit::GetBrushColour(VVEbrush kind) const
     if (object == NULL || object->GetSafeHandle() == NULL || object->GetLogBrush(&data) == 0)
         return DefaultColour(brush);
     return data.lbColor;
-}
-
-void CSuperEdit::SetTipText(const wchar_t* text)
-{
-    m_tipText = text;
-    m_tipTextSet = text != NULL;
-    if (text == NULL)
-    {
-        RemoveTip();
-        return;
-    }
-    MakeTip();
-    if (m_toolTip.GetToolCount() > 0)
-        m_toolTip.UpdateTipText(m_tipText, this, kTipTool);
-}
-
-void CSuperEdit::SetEableTip(int enable)
-{
-    m_tipEnabled = enable;
-    if (enable)
-        MakeTip();
 }
 
 int CSuperEdit::IsValid() const
@@ -274,13 +248,6 @@ void CSuperEdit::SelectAll()
         SetSel(0, -1);
 }
 
-BOOL CSuperEdit::PreTranslateMessage(MSG* message)
-{
-    if (m_tipEnabled && m_toolTip.GetSafeHwnd() != NULL)
-        m_toolTip.RelayEvent(message);
-    return CEdit::PreTranslateMessage(message);
-}
-
 int CSuperEdit::CheckValueOutRange(double value) const
 {
     return CheckLimits(Rules(), value);
@@ -363,10 +330,7 @@ void CSuperEdit::OnSetFocus(CWnd* oldWindow)
         return;
     if ((!m_tipTextSet || m_tipText.IsEmpty()) && m_tipEnabled && m_valueCheck)
         ShowLimitsInTip();
-    if (m_tipMade)
-        ShowTip();
-    else
-        m_toolDue = 1;
+    ShowTipWithFocus();
 }
 
 void CSuperEdit::OnKillFocus(CWnd* newWindow)
@@ -383,6 +347,13 @@ void CSuperEdit::OnKillFocus(CWnd* newWindow)
 void CSuperEdit::OnMouseMove(UINT flags, CPoint point)
 {
     CEdit::OnMouseMove(flags, point);
+}
+
+// The object may get another window later, which gets a tip of its own.
+void CSuperEdit::OnDestroy()
+{
+    ForgetTip();
+    CEdit::OnDestroy();
 }
 
 // Empty while there is no window.
@@ -486,52 +457,4 @@ CBrush* CSuperEdit::BrushOf(int brush)
 void CSuperEdit::ReportFailure(const wchar_t* text)
 {
     MessageBox(text, kFailureCaption, MB_OK | MB_ICONERROR);
-}
-
-void CSuperEdit::ShowLimitsInTip()
-{
-    m_tipText.Format(kTipFormat, PlainNumberText(kTipNumberFormat, m_minimum).GetString(),
-                     PlainNumberText(kTipNumberFormat, m_maximum).GetString(),
-                     PlainNumberText(kTipNumberFormat, m_default).GetString());
-    RemoveTip();
-}
-
-// The window of the tip takes longer to make than that of the edit, and most edits never show a tip: it is made when
-// the first one is asked for, and gets what it missed.
-void CSuperEdit::MakeTip()
-{
-    if (m_tipMade)
-        return;
-    m_tipMade = 1;
-    m_toolTip.Create(this, 0);
-    m_toolTip.Activate(FALSE);
-    m_toolTip.SetMaxTipWidth(kMaxTipWidth);
-    if (m_toolDue)
-        ShowTip();
-}
-
-void CSuperEdit::ShowTip()
-{
-    const CWindowWatch watch(*this);
-    if (m_toolTip.GetToolCount() == 0)
-        AddTip();
-    if (watch.IsGone())
-        return;
-    m_toolTip.Activate(TRUE);
-    m_toolTip.Update();
-}
-
-void CSuperEdit::AddTip()
-{
-    CRect client;
-    GetClientRect(&client);
-    if (!m_toolTip.AddTool(this, m_tipText, &client, kTipTool))
-        ReportFailure(kTipFailure);
-}
-
-void CSuperEdit::RemoveTip()
-{
-    m_toolDue = 0;
-    if (m_tipMade && m_toolTip.GetToolCount() > 0)
-        m_toolTip.DelTool(this, kTipTool);
 }

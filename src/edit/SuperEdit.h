@@ -18,6 +18,9 @@
 //
 // The parent may destroy the window in any of these, and delete the object with it.
 //
+// A menu of the owner may send it the commands 32773 undo, 32774 cut, 32775 copy, 32776 paste, 32777 clear and 32778
+// select all (WM_COMMAND).
+//
 // The text is validated while it is painted: a control that is hidden, disabled or read-only keeps its last verdict
 // until DoValidation(0).
 //
@@ -63,7 +66,7 @@ public:
     VVEset GetValidSet() const;
 
     // Lengths in characters, from 0 to 65535; what lies outside becomes the nearest sensible bound, a minimum above the
-    // maximum trades places with it. The maximum limits what can be typed.
+    // maximum trades places with it. The maximum limits what can be typed into a window that is there already.
     void SetTextLenMinMax(int min, int max);
     int GetTextMinLen() const;
     int GetTextMaxLen() const;
@@ -116,7 +119,8 @@ public:
     int SetBrushColour(VVEbrush kind, COLORREF colour);
     COLORREF GetBrushColour(VVEbrush kind) const;
 
-    // The hover tip. Null: a tip of the limits.
+    // The hover tip, one for the whole control from its first focus on, shown while it is enabled. Null: a tip of the
+    // limits, while values are checked.
     void SetTipText(const wchar_t* text);
     CString GetTipText() const;
     void SetEableTip(int enable);
@@ -172,6 +176,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* oldWindow);
     afx_msg void OnKillFocus(CWnd* newWindow);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -199,9 +204,11 @@ private:
     // Tip.
     void ShowLimitsInTip();
     void MakeTip();
+    void ShowTipWithFocus();
     void ShowTip();
     void AddTip();
     void RemoveTip();
+    void ForgetTip();
 
     CBrush m_emptyBrush;
     CBrush m_validBrush;

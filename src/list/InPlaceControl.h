@@ -4,6 +4,15 @@
 
 #include <afxwin.h>
 
+// Identifiers of the list's children.
+enum
+{
+    ID_BUTTON = 1000,
+    ID_EDIT = 1001,
+    ID_COMBO_BOX = 1002,
+    ID_DATE_TIME = 1003
+};
+
 template<class CONTROL>
 class CInPlaceControl : public CONTROL
 {

@@ -24,12 +24,14 @@
 //
 // To the parent, as NMLVDISPINFOW with LVIF_TEXT, row, column, text and its length; the answer is not used:
 //   LVN_BEGINLABELEDITW  a cell was clicked or reached by a key: its present text. Answer with ShowInPlace... or not.
-//   LVN_ENDLABELEDITW    an editor was closed: the final text. Comes exactly once for each editor, also when it is
-//   closed
-//                        by scrolling, by a heading that is drawn wider, by the loss of the focus or by DestroyWindow.
-//                        A list that goes down with its parent drops an editor that still stands, without a word.
+//   LVN_ENDLABELEDITW    an editor was closed: the final text. Comes exactly once for each editor, also when the edit
+//                        ends by scrolling, by a heading that is drawn wider, by the loss of the focus or by
+//                        DestroyWindow. A list that goes down with its parent drops an editor that still stands,
+//                        without a word.
 //   WM_LISTCTRL_BEFOREDELETE  see there.
-// In all of them the parent may open or end an edit, delete rows and destroy the list.
+// In all of them the parent may open or end an edit, delete rows and destroy the list. A sort ends an edit, too; an
+// owner that inserts or deletes rows by the functions of CListCtrl ends it first, because an edit keeps the row number
+// that it began with.
 //
 // Keys: Space and Enter edit the selected row. In an editor Up, Down, Ctrl+Left, Ctrl+Right and Enter (the next cell,
 // row by row) go to another cell; where there is none, the key goes to the dialog. Tab and Escape are the dialog's.
@@ -70,6 +72,7 @@ class ZNKT_API CZNListCtrl : public CZNSortListCtrl
     DECLARE_DYNAMIC(CZNListCtrl)
 
 public:
+    // Which editor is open.
     enum EditKind
     {
         None = 0,
@@ -119,8 +122,8 @@ public:
     // clicked.
     void EndEdit();
 
-    // Operations on rows. -1 is the first selected row. An edit under way is ended first. -1 is the answer to a row
-    // that does not exist, when nothing is selected, and when the list was destroyed on the way.
+    // Operations on rows. -1 is the first selected row. An edit under way is ended first, but by SelectItem. -1 is the
+    // answer to a row that does not exist, when nothing is selected, and when the list was destroyed on the way.
 
     // Move a row by one or to an end of the list, and select it there: the index before the move. The texts move.
     // Item data moves with UpItem and DownItem in lists with an odd number of columns, else it stays in its place;
@@ -137,7 +140,7 @@ public:
     // several rows were deleted, and none is selected then.
     int DelItem(int nItem);
 
-    // Selects a row and gives it the focus; with bOnly no other one, where the list allows several.
+    // Selects a row and gives it the focus among the rows; with bOnly no other one, where the list allows several.
     void SelectItem(int nItem, bool bOnly);
 
     virtual BOOL DestroyWindow();
@@ -148,6 +151,7 @@ public:
     CArray<int, int> m_aNoEditColumns;
 
 protected:
+    virtual bool PrepareSort();
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
 
     DECLARE_MESSAGE_MAP()
@@ -165,8 +169,9 @@ private:
     CZNListCtrl(const CZNListCtrl&);
     CZNListCtrl& operator=(const CZNListCtrl&);
 
-    // Opening.
     bool HasCell(int row, int column) const;
+
+    // Opening.
     bool PrepareCell(int row, int column, CRect& cell);
     void Open(CWnd* editor, EditKind kind, int row, int column);
     void TakeFont(CWnd* editor);

@@ -226,6 +226,11 @@ int CALLBACK CZNSortListCtrl::MyCompareProc(LPARAM lParam1, LPARAM lParam2, LPAR
     return CompareSortTexts(info->mode, first, second);
 }
 
+bool CZNSortListCtrl::PrepareSort()
+{
+    return true;
+}
+
 void CZNSortListCtrl::MoveHighlight(int rows)
 {
     m_nHighlightItem += rows;
@@ -236,12 +241,13 @@ BOOL CZNSortListCtrl::OnColumnclick(NMHDR* notification, LRESULT* result)
     *result = 0;
     if (m_nSortEnabled == 0 || GetItemCount() < kFewestRows)
         return FALSE;
+    const HWND list = m_hWnd;
     const int column = reinterpret_cast<NMLISTVIEW*>(notification)->iSubItem;
     const CString text = GetItemText(0, column);
     const int numeric = text.IsEmpty() || IsNumericText(text);
     if (m_aSortSubitems.IsEmpty())
         SortColumn(column, numeric, -1);
-    for (INT_PTR i = 0; i < m_aSortSubitems.GetSize(); ++i)
+    for (INT_PTR i = 0; ::IsWindow(list) && i < m_aSortSubitems.GetSize(); ++i)
     {
         if (m_aSortSubitems[i] == column)
             SortColumn(column, numeric, -1);
@@ -332,6 +338,8 @@ void CZNSortListCtrl::SortRows(int column, int mode)
 {
     // A list that keeps no rows cannot sort any.
     if ((GetStyle() & LVS_OWNERDATA) != 0)
+        return;
+    if (!PrepareSort())
         return;
     const CFlagGuard sorting(m_sorting);
     std::vector<CString> texts;

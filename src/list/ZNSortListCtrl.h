@@ -73,6 +73,9 @@ public:
     static int CALLBACK MyCompareProc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
 protected:
+    // The rows are about to change their places. False keeps them where they are.
+    virtual bool PrepareSort();
+
     // The highlighted row is another one from now on; nothing is redrawn.
     void MoveHighlight(int rows);
 

@@ -19,7 +19,7 @@ const int kTextId = 100;
 class ScriptedInput : public CInputDialog
 {
 public:
-    ScriptedInput() : CInputDialog(NULL) {}
+    explicit ScriptedInput(CWnd* parent = NULL) : CInputDialog(parent) {}
 
     CString Title() override { return ownTexts ? L"标题" : CInputDialog::Title(); }
     CString TipMsg() override { return ownTexts ? L"名称:" : CInputDialog::TipMsg(); }
@@ -50,6 +50,8 @@ public:
     {
         ++cancels;
         textAtCancel = TextOf(*GetEditControl());
+        if (onCancel)
+            onCancel();
         return cancels > refusedCancels;
     }
 
@@ -67,6 +69,7 @@ public:
     bool ownTexts = false;
     std::function<void()> script;
     std::function<void()> onOk;
+    std::function<void()> onCancel;
     int refusedOks = 0;
     int refusedCancels = 0;
     CString newValue;
@@ -255,6 +258,82 @@ TEST_F(InputDialog, ControlsLieWhereTheTemplateSays)
         m_dialog.Press(IDCANCEL);
     };
     EXPECT_FALSE(Ask());
+}
+
+TEST_F(InputDialog, LooksAsTheTemplateSays)
+{
+    m_dialog.script = [this] {
+        CWnd* const dialog = m_dialog.GetDialogWindow();
+        const auto has = [dialog](int id, DWORD style) {
+            return (::GetWindowLongW(::GetDlgItem(dialog->m_hWnd, id), GWL_STYLE) & style) == style;
+        };
+        CRect client(0, 0, 187, 64);
+        ::MapDialogRect(dialog->m_hWnd, &client);
+        CRect shown;
+        dialog->GetClientRect(&shown);
+        EXPECT_TRUE(client == shown);
+        EXPECT_EQ(DWORD(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME),
+                  dialog->GetStyle() & (WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME));
+        EXPECT_TRUE(has(kPromptId, WS_GROUP));
+        EXPECT_TRUE(has(kTextId, WS_TABSTOP | ES_AUTOHSCROLL));
+        EXPECT_TRUE(has(IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP));
+        EXPECT_TRUE(has(IDCANCEL, WS_TABSTOP));
+        EXPECT_FALSE(has(IDCANCEL, BS_DEFPUSHBUTTON));
+        LOGFONTW font = {};
+        dialog->GetFont()->GetLogFont(&font);
+        EXPECT_STREQ(L"宋体", font.lfFaceName);
+        m_dialog.Press(IDCANCEL);
+    };
+    EXPECT_FALSE(Ask());
+}
+
+TEST_F(InputDialog, TheWindowMayBeDestroyedInEveryHook)
+{
+    const std::function<void()> destroy = [this] { m_dialog.GetDialogWindow()->DestroyWindow(); };
+    m_dialog.script = destroy;
+    EXPECT_FALSE(Ask());
+    for (const bool refused : {false, true})
+    {
+        m_dialog.script = [this] { m_dialog.Press(IDOK); };
+        m_dialog.onOk = destroy;
+        m_dialog.refusedOks = refused ? m_dialog.oks + 1 : 0;
+        EXPECT_FALSE(Ask());
+        m_dialog.script = [this] { m_dialog.Press(IDCANCEL); };
+        m_dialog.onCancel = destroy;
+        m_dialog.refusedCancels = refused ? m_dialog.cancels + 1 : 0;
+        EXPECT_FALSE(Ask());
+    }
+    EXPECT_EQ(2, m_dialog.oks);
+    EXPECT_EQ(2, m_dialog.cancels);
+    EXPECT_STREQ(L"before", m_value);
+}
+
+TEST_F(InputDialog, AskingOnceMoreWhileItAsksIsRefused)
+{
+    CString inner = L"inner";
+    m_dialog.script = [this] {
+        m_dialog.Type(L"typed");
+        m_dialog.Press(IDOK);
+    };
+    m_dialog.onOk = [&] {
+        m_dialog.onOk = nullptr;
+        EXPECT_FALSE(m_dialog.Input(inner));
+    };
+    EXPECT_TRUE(Ask());
+    EXPECT_STREQ(L"inner", inner);
+    EXPECT_STREQ(L"typed", m_value);
+    EXPECT_EQ(1, m_dialog.opened);
+}
+
+TEST_F(InputDialog, EndsWithTheWindowThatWaitsForIt)
+{
+    CWnd parent;
+    ASSERT_TRUE(
+        parent.CreateEx(0, AfxRegisterWndClass(0), L"parent", WS_POPUP | WS_VISIBLE, CRect(0, 0, 200, 100), NULL, 0));
+    ScriptedInput dialog(&parent);
+    dialog.script = [&] { parent.PostMessage(WM_CLOSE); };
+    EXPECT_FALSE(dialog.Input(m_value));
+    EXPECT_STREQ(L"before", m_value);
 }
 
 // Whatever is current before, the dialog is found in the module, and what was current is so again.

@@ -1,6 +1,8 @@
 // The validating edit on a real parent: settings, character sets, keystrokes, edit commands, strange texts.
 #include "EditFixture.h"
 
+#include "Wait.h"
+
 #include <algorithm>
 
 namespace
@@ -213,6 +215,51 @@ TEST_F(SuperEdit, FilterIsOffWhileValidationIsDisabled)
     m_edit.SetDisableValidation(1);
     Type(L"a");
     EXPECT_EQ(L"a", Text());
+    EXPECT_EQ(1, m_edit.IsValid());
+}
+
+// An input method hands its result over as WM_IME_CHAR, one message for each UTF-16 unit.
+TEST_F(SuperEdit, TextOfAnInputMethodPassesTheFilterAndIsJudged)
+{
+    struct Row
+    {
+        const char* name;
+        std::wstring typed;
+        int valid;
+    };
+    const Row rows[] = {{"Chinese", L"\x4E2D", 0},
+                        {"full-width digit", L"\xFF11", 0},
+                        {"surrogate pair", L"\xD83D\xDE00", 0},
+                        {"Chinese with the low bits of a digit", L"\x4E31", 1}};
+    m_edit.SetValidCharSet(VVE_DECIMAL, NULL);
+    for (const Row& row : rows)
+    {
+        SCOPED_TRACE(row.name);
+        m_edit.SetWindowText(L"");
+        for (const wchar_t unit : row.typed)
+            m_edit.SendMessage(WM_IME_CHAR, unit, 1);
+        EXPECT_TRUE(WaitFor([&] { return Text() == row.typed; }));
+        EXPECT_EQ(row.valid, m_edit.IsValid());
+    }
+}
+
+TEST_F(SuperEdit, LetterOfAnInputMethodIsFilteredToo)
+{
+    m_edit.SetValidCharSet(VVE_DECIMAL, NULL);
+    m_edit.SendMessage(WM_IME_CHAR, L'a', 1);
+    m_edit.SendMessage(WM_IME_CHAR, L'1', 1);
+    EXPECT_TRUE(WaitFor([&] { return Text() == L"1"; }));
+}
+
+TEST_F(SuperEdit, UndoBringsTheVerdictOfTheFormerTextBack)
+{
+    m_edit.SetValidCharSet(VVE_DECIMAL, NULL);
+    m_edit.SetWindowText(L"12");
+    m_edit.SetSel(0, -1);
+    m_edit.ReplaceSel(L"x", TRUE);
+    EXPECT_EQ(0, m_edit.IsValid());
+    m_edit.SendMessage(WM_COMMAND, 32773);
+    EXPECT_EQ(L"12", Text());
     EXPECT_EQ(1, m_edit.IsValid());
 }
 

@@ -17,6 +17,31 @@ BOOL CALLBACK CollectTip(HWND window, LPARAM tips)
     return TRUE;
 }
 
+std::vector<HWND> AllTips()
+{
+    std::vector<HWND> tips;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+    return tips;
+}
+
+TTTOOLINFOW ToolOf(const CWnd& edit)
+{
+    TTTOOLINFOW info = {};
+    info.cbSize = TTTOOLINFOW_V2_SIZE;
+    info.hwnd = edit.m_hWnd;
+    info.uId = kTool;
+    return info;
+}
+
+std::wstring TextInTip(HWND tip, const CWnd& edit)
+{
+    TTTOOLINFOW info = ToolOf(edit);
+    wchar_t text[300] = L"";
+    info.lpszText = text;
+    ::SendMessageW(tip, TTM_GETTEXTW, 300, reinterpret_cast<LPARAM>(&info));
+    return text;
+}
+
 // Counts what is relayed to a tip window.
 class RelayCounter
 {
@@ -56,41 +81,18 @@ class SuperEditTip : public EditFixture
 protected:
     SuperEditTip()
     {
-        EXPECT_TRUE(Tips().empty());
+        EXPECT_TRUE(AllTips().empty());
         // An edit that is asked for a tip brings one tip window, and there is one edit.
         m_edit.SetEableTip(1);
         m_edit.SetEableTip(0);
-        const std::vector<HWND> tips = Tips();
+        const std::vector<HWND> tips = AllTips();
         EXPECT_EQ(1u, tips.size());
         m_tip = tips.empty() ? NULL : tips.front();
     }
 
-    static std::vector<HWND> Tips()
-    {
-        std::vector<HWND> tips;
-        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
-        return tips;
-    }
-
     int Tools() const { return static_cast<int>(::SendMessageW(m_tip, TTM_GETTOOLCOUNT, 0, 0)); }
 
-    TTTOOLINFOW Tool()
-    {
-        TTTOOLINFOW info = {};
-        info.cbSize = TTTOOLINFOW_V2_SIZE;
-        info.hwnd = m_edit.m_hWnd;
-        info.uId = kTool;
-        return info;
-    }
-
-    std::wstring Shown()
-    {
-        TTTOOLINFOW info = Tool();
-        wchar_t text[300] = L"";
-        info.lpszText = text;
-        ::SendMessageW(m_tip, TTM_GETTEXTW, 300, reinterpret_cast<LPARAM>(&info));
-        return text;
-    }
+    std::wstring Shown() { return TextInTip(m_tip, m_edit); }
 
     HWND m_tip;
 };
@@ -104,7 +106,7 @@ TEST_F(SuperEditTip, FocusAddsOneToolForTheWholeClientArea)
     Enter();
     ASSERT_EQ(1, Tools());
     EXPECT_EQ(L"first", Shown());
-    TTTOOLINFOW info = Tool();
+    TTTOOLINFOW info = ToolOf(m_edit);
     wchar_t text[300] = L"";
     info.lpszText = text;
     ::SendMessageW(m_tip, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&info));
@@ -126,19 +128,49 @@ TEST(SuperEditTipInPlace, TipThatIsAskedForWhileTheEditHasTheFocusIsThereAtOnce)
         CSuperEdit edit;
         ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &parent, 1));
         edit.SetFocus();
-        std::vector<HWND> tips;
-        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
-        EXPECT_TRUE(tips.empty()); // nobody asked for one
+        EXPECT_TRUE(AllTips().empty()); // nobody asked for one
         if (byText)
             edit.SetTipText(L"tip");
         else
             edit.SetEableTip(1);
-        ::EnumThreadWindows(::GetCurrentThreadId(), &CollectTip, reinterpret_cast<LPARAM>(&tips));
+        const std::vector<HWND> tips = AllTips();
         ASSERT_EQ(1u, tips.size());
         EXPECT_EQ(1, ::SendMessageW(tips[0], TTM_GETTOOLCOUNT, 0, 0));
         edit.DestroyWindow();
     }
     parent.DestroyWindow();
+}
+
+TEST(SuperEditTipAgain, EditOfADialogThatIsShownAgainHasItsTipAgain)
+{
+    for (const bool beforeTheWindow : {false, true})
+    {
+        CSuperEdit edit;
+        if (beforeTheWindow)
+            edit.SetInputFloat(2.5, 0, 10, FALSE, TRUE, L"own");
+        for (int round = 0; round < 2; ++round)
+        {
+            SCOPED_TRACE(round);
+            MessageBoxAnswer answer(IDOK);
+            CWnd parent;
+            ASSERT_TRUE(parent.CreateEx(0, AfxRegisterWndClass(0), L"parent", WS_POPUP | WS_VISIBLE,
+                                        CRect(0, 0, 200, 100), NULL, 0));
+            ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &parent, 1));
+            if (!beforeTheWindow)
+                edit.SetInputFloat(2.5, 0, 10, FALSE, TRUE, L"own");
+            edit.SetFocus();
+            const std::vector<HWND> tips = AllTips();
+            EXPECT_EQ(1u, tips.size());
+            if (!tips.empty())
+            {
+                EXPECT_EQ(1, ::SendMessageW(tips[0], TTM_GETTOOLCOUNT, 0, 0));
+                EXPECT_EQ(L"own", TextInTip(tips[0], edit));
+            }
+            parent.DestroyWindow();
+            EXPECT_TRUE(AllTips().empty());
+            EXPECT_TRUE(answer.Boxes().empty());
+        }
+    }
 }
 
 TEST_F(SuperEditTip, BreaksLinesAt400Pixels)

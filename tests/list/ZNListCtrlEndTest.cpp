@@ -75,6 +75,18 @@ TEST_F(EditableListEnd, InvalidTextPutsTheTextOfTheCellBack)
 }
 
 // The default that such an edit gives itself when it loses the focus comes too late.
+TEST_F(EditableListEnd, TextTypedOutOfViewIsHandedOver)
+{
+    List().SetColumnWidth(1, 600); // column 2 begins behind the right edge
+    CSuperEdit* const edit = List().ShowInPlaceEdit(1, 2, L"");
+    ASSERT_NE(nullptr, edit);
+    edit->SetValidCharSet(VVE_DECIMAL, NULL);
+    for (const wchar_t key : {L'4', L'2'})
+        edit->SendMessage(WM_CHAR, key, 1);
+    List().EndEdit();
+    EXPECT_EQ((Notes{L"end 1,2 42"}), TakeNotes());
+}
+
 TEST_F(EditableListEnd, InvalidTextPutsTheTextOfTheCellBackWhenTheFocusGoes)
 {
     CSuperEdit* const edit = List().ShowInPlaceEdit(1, 1, L"5");

@@ -159,6 +159,18 @@ protected:
         }
     }
 
+    // As the list view tells its parent.
+    void ClickHeading(int column)
+    {
+        NMLISTVIEW click = {};
+        click.hdr.hwndFrom = List().m_hWnd;
+        click.hdr.idFrom = kListId;
+        click.hdr.code = LVN_COLUMNCLICK;
+        click.iItem = -1;
+        click.iSubItem = column;
+        m_owner.SendMessage(WM_NOTIFY, kListId, reinterpret_cast<LPARAM>(&click));
+    }
+
     size_t CountEnds(int row, int column)
     {
         const std::wstring start = L"end " + std::to_wstring(row) + L"," + std::to_wstring(column);
@@ -374,6 +386,104 @@ TEST_F(EditableListOwner, MayDeleteRowsItselfBeforeRowsAreDeleted)
     m_owner.onDelete = [](CArray<int, int>& rows) { rows.RemoveAll(); };
     EXPECT_EQ(-1, List().DelItem(1));
     EXPECT_EQ(kRows, List().GetItemCount());
+}
+
+TEST_F(EditableListOwner, MayChangeTheRowsWhileACellIsEdited)
+{
+    for (const Action& answer : Answers())
+    {
+        Create();
+        answer();
+        ClickCell(3, 1);
+        m_owner.onBegin = nullptr;
+        TakeNotes();
+        List().DeleteAllItems();
+        for (const UINT key : {VK_UP, VK_DOWN, VK_RETURN})
+            Press(key);
+        EXPECT_EQ(0u, CountEnds(3, 1));
+        List().InsertItem(0, L"new");
+        List().EndEdit();
+        EXPECT_EQ(1u, CountEnds(3, 1)); // the row that the edit began with
+    }
+}
+
+TEST_F(EditableListOwner, MayDeleteTheColumnsWhileACellIsEdited)
+{
+    for (const Action& answer : Answers())
+    {
+        Create();
+        answer();
+        ClickCell(1, 1);
+        m_owner.onBegin = nullptr;
+        TakeNotes();
+        while (List().DeleteColumn(0))
+            continue;
+        {
+            const HeldKey ctrl(VK_CONTROL);
+            Press(VK_RIGHT);
+            Press(VK_LEFT);
+        }
+        List().EndEdit();
+        EXPECT_EQ(1u, CountEnds(1, 1));
+    }
+}
+
+TEST_F(EditableListOwner, EditEndsBeforeAClickOnAHeadingMovesItsRow)
+{
+    List().EnableSort(1);
+    AnswerWithEdit();
+    m_owner.onEnd = [this](int row, int column) { List().SetItemText(row, column, L"stored"); };
+    for (const bool byClick : {true, false})
+    {
+        List().SetItemText(0, 1, L"r0c1");
+        ClickCell(0, 1);
+        const DWORD_PTR edited = List().GetItemData(0);
+        TakeNotes();
+        if (byClick)
+            ClickHeading(0);
+        else
+            List().SortColumn(0, 0, -1);
+        EXPECT_EQ((Notes{L"end 0,1 r0c1"}), TakeNotes());
+        EXPECT_EQ(0, CountEditors());
+        ASSERT_EQ(edited, List().GetItemData(kRows - 1)); // it went to the other end
+        EXPECT_EQ(L"stored", CellText(kRows - 1, 1));
+    }
+}
+
+TEST_F(EditableListOwner, ClickOnAHeadingThatSortsNothingKeepsTheEditOpen)
+{
+    AnswerWithEdit();
+    ClickCell(0, 1);
+    TakeNotes();
+    ClickHeading(0);
+    EXPECT_EQ(Notes(), TakeNotes());
+    EXPECT_EQ(1, CountEditors());
+}
+
+TEST_F(EditableListOwner, MayDestroyTheListWhenASortEndsAnEdit)
+{
+    const Action evils[] = {[this] { List().DestroyWindow(); }, [this] { ::DestroyWindow(List().m_hWnd); },
+                            [this] { DeleteList(); }};
+    for (const Action& evil : evils)
+    {
+        for (const bool byClick : {false, true})
+        {
+            Create();
+            List().EnableSort(1);
+            AnswerWithEdit();
+            ClickCell(0, 1);
+            TakeNotes();
+            const HWND list = List().m_hWnd;
+            m_owner.onEnd = [&](int, int) { evil(); };
+            if (byClick)
+                ClickHeading(0);
+            else
+                List().SortColumn(0, 0, 1);
+            EXPECT_FALSE(::IsWindow(list));
+            EXPECT_EQ(1u, CountEnds(0, 1));
+            m_owner.onEnd = nullptr;
+        }
+    }
 }
 
 TEST_F(EditableListOwner, MayDestroyAnEditorItself)
