@@ -75,7 +75,7 @@ void CSuperEdit::ShowTipWithFocus()
         return;
     }
     m_toolDue = 1;
-    if (m_tipEnabled || m_tipTextSet)
+    if (m_tipEnabled)
         MakeTip();
 }
 

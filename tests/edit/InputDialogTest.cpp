@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "MessageSpy.h"
 #include "base/ModuleInstance.h"
 #include "edit/InputDialog.h"
 
@@ -167,6 +169,18 @@ TEST_F(InputDialog, ChangedValueIsTheAnswer)
     EXPECT_TRUE(Ask());
     EXPECT_STREQ(L"typed", m_dialog.seen);
     EXPECT_STREQ(L"changed", m_value);
+}
+
+TEST_F(InputDialog, ChangedValueIsShownBeforeTheDialogCloses)
+{
+    m_dialog.newValue = L"changed";
+    std::unique_ptr<MessageSpy> spy;
+    m_dialog.script = [&] {
+        m_dialog.Press(IDOK);
+        spy.reset(new MessageSpy(*m_dialog.GetEditControl(), WM_SETTEXT));
+    };
+    EXPECT_TRUE(Ask());
+    EXPECT_EQ(1u, spy->Seen().size());
 }
 
 TEST_F(InputDialog, RefusedCancelMakesEscapeAndCancelDoNothing)

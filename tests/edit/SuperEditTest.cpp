@@ -1,6 +1,7 @@
 // The validating edit on a real parent: settings, character sets, keystrokes, edit commands, strange texts.
 #include "EditFixture.h"
 
+#include "MessageSpy.h"
 #include "Wait.h"
 
 #include <algorithm>
@@ -289,6 +290,49 @@ TEST_F(SuperEdit, EditCommandsWorkOnTheText)
     m_edit.SetSel(6, 6);
     m_edit.SendMessage(WM_COMMAND, 32776);
     EXPECT_EQ(L"oneoneo", Text());
+}
+
+TEST_F(SuperEdit, SelectingEverythingShowsTheCaret)
+{
+    m_edit.SetWindowText(std::wstring(300, L'W').c_str());
+    m_edit.SetSel(0, 0);
+    const MessageSpy spy(m_edit.m_hWnd, EM_SCROLLCARET);
+    m_edit.SelectAll();
+    EXPECT_EQ(1u, spy.Seen().size());
+}
+
+namespace
+{
+
+// A derived class has a command of its own and hears of those that the edit carries out.
+class CommandedEdit : public CSuperEdit
+{
+public:
+    std::vector<UINT> heard;
+
+protected:
+    afx_msg void OnEditCommand(UINT id) { heard.push_back(id); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CommandedEdit, CSuperEdit)
+    ON_COMMAND_RANGE(32773, 32779, &CommandedEdit::OnEditCommand)
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_F(SuperEdit, EveryCommandGoesOnToTheBaseClass)
+{
+    CommandedEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 0, 100, 20), &m_parent, 1));
+    std::vector<UINT> sent;
+    for (UINT id = 32773; id <= 32779; ++id)
+    {
+        edit.SendMessage(WM_COMMAND, id);
+        sent.push_back(id);
+    }
+    EXPECT_EQ(sent, edit.heard);
+    edit.DestroyWindow();
 }
 
 TEST_F(SuperEdit, SelectingEverythingWithoutAWindowLeavesTheFocusAlone)

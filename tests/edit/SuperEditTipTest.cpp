@@ -2,6 +2,7 @@
 #include "EditFixture.h"
 
 #include "MessageBoxAnswer.h"
+#include "MessageSpy.h"
 
 namespace
 {
@@ -41,40 +42,6 @@ std::wstring TextInTip(HWND tip, const CWnd& edit)
     ::SendMessageW(tip, TTM_GETTEXTW, 300, reinterpret_cast<LPARAM>(&info));
     return text;
 }
-
-// Counts what is relayed to a tip window.
-class RelayCounter
-{
-public:
-    explicit RelayCounter(HWND tip) : m_tip(tip)
-    {
-        s_relayed = 0;
-        s_former = reinterpret_cast<WNDPROC>(
-            ::SetWindowLongPtrW(tip, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RelayCounter::Proc)));
-    }
-
-    ~RelayCounter() { ::SetWindowLongPtrW(m_tip, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_former)); }
-
-    RelayCounter(const RelayCounter&) = delete;
-    RelayCounter& operator=(const RelayCounter&) = delete;
-
-    int Count() const { return s_relayed; }
-
-private:
-    static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        s_relayed += message == TTM_RELAYEVENT;
-        return ::CallWindowProcW(s_former, window, message, wParam, lParam);
-    }
-
-    static int s_relayed;
-    static WNDPROC s_former;
-
-    HWND m_tip;
-};
-
-int RelayCounter::s_relayed = 0;
-WNDPROC RelayCounter::s_former = NULL;
 
 class SuperEditTip : public EditFixture
 {
@@ -173,6 +140,41 @@ TEST(SuperEditTipAgain, EditOfADialogThatIsShownAgainHasItsTipAgain)
     }
 }
 
+TEST_F(SuperEditTip, FocusActivatesAndRefreshesTheTip)
+{
+    m_edit.SetTipText(L"first");
+    const MessageSpy activated(m_tip, TTM_ACTIVATE);
+    const MessageSpy refreshed(m_tip, TTM_UPDATE);
+    Enter();
+    EXPECT_EQ((std::vector<MessageSpy::Parameters>{{TRUE, 0}}), activated.Seen());
+    EXPECT_EQ(1u, refreshed.Seen().size());
+}
+
+TEST_F(SuperEditTip, IsNotBroughtBackByTheTipBeingEnabledAfterItsTextWasRemoved)
+{
+    m_edit.SetTipText(L"first");
+    Enter();
+    m_edit.SetTipText(NULL);
+    m_edit.SetEableTip(1);
+    EXPECT_EQ(0, Tools());
+}
+
+TEST(SuperEditTipInPlace, TextThatIsRemovedBeforeTheTipIsMadeBringsNoTool)
+{
+    CWnd parent;
+    ASSERT_TRUE(
+        parent.CreateEx(0, AfxRegisterWndClass(0), L"parent", WS_POPUP | WS_VISIBLE, CRect(0, 0, 200, 100), NULL, 0));
+    CSuperEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &parent, 1));
+    edit.SetFocus();
+    edit.SetTipText(NULL);
+    edit.SetEableTip(1);
+    const std::vector<HWND> tips = AllTips();
+    ASSERT_EQ(1u, tips.size());
+    EXPECT_EQ(0, ::SendMessageW(tips[0], TTM_GETTOOLCOUNT, 0, 0));
+    parent.DestroyWindow();
+}
+
 TEST_F(SuperEditTip, BreaksLinesAt400Pixels)
 {
     EXPECT_EQ(400, ::SendMessageW(m_tip, TTM_GETMAXTIPWIDTH, 0, 0));
@@ -248,15 +250,15 @@ TEST_F(SuperEditTip, TextsOfAnyLengthDoNoHarm)
 
 TEST_F(SuperEditTip, MessagesAreRelayedWhileTheTipIsEnabled)
 {
-    const RelayCounter counter(m_tip);
+    const MessageSpy relayed(m_tip, TTM_RELAYEVENT);
     MSG message = {};
     message.hwnd = m_edit.m_hWnd;
     message.message = WM_MOUSEMOVE;
     m_edit.PreTranslateMessage(&message);
-    EXPECT_EQ(0, counter.Count());
+    EXPECT_EQ(0u, relayed.Seen().size());
     m_edit.SetEableTip(1);
     m_edit.PreTranslateMessage(&message);
-    EXPECT_EQ(1, counter.Count());
+    EXPECT_EQ(1u, relayed.Seen().size());
 }
 
 TEST_F(SuperEditTip, FailureToAddTheToolIsShown)

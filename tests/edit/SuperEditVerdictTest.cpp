@@ -1,6 +1,8 @@
 // The validating edit on a real parent: verdicts and their colours.
 #include "EditFixture.h"
 
+#include "MessageSpy.h"
+
 #include "GdiCount.h"
 
 namespace
@@ -86,6 +88,23 @@ TEST_F(SuperEditVerdict, LengthIsValidWhileEmptyTextsAreAllowedWhateverItIs)
     EXPECT_EQ(1, m_edit.IsValidLength());
     m_edit.SetEmptyValid(0);
     EXPECT_EQ(0, m_edit.IsValidLength());
+    m_edit.SetEnableLengthCheck(0);
+    EXPECT_EQ(1, m_edit.IsValidLength());
+}
+
+TEST_F(SuperEditVerdict, LengthIsJudgedWhereEmptyTextsAreNotAllowed)
+{
+    m_edit.SetEmptyValid(0);
+    m_edit.SetEnableLengthCheck(1);
+    m_edit.SetTextLenMinMax(2, 3);
+    for (const wchar_t* text : {L"a", L"abcd", L""})
+    {
+        m_edit.SetWindowText(text);
+        EXPECT_EQ(0, m_edit.IsValidLength()) << text;
+    }
+    m_edit.SetWindowText(L"ab");
+    EXPECT_EQ(1, m_edit.IsValidLength());
+    m_edit.SetWindowText(L"a");
     m_edit.SetEnableLengthCheck(0);
     EXPECT_EQ(1, m_edit.IsValidLength());
 }
@@ -262,6 +281,14 @@ TEST_F(SuperEditVerdict, RedrawingValidates)
     m_edit.SetValidCharSet(VVE_DECIMAL, NULL);
     m_edit.DoValidation(1);
     EXPECT_EQ(0, m_edit.IsValid());
+}
+
+TEST_F(SuperEditVerdict, RedrawingErasesTheWholeControl)
+{
+    m_edit.UpdateWindow();
+    const MessageSpy spy(m_edit.m_hWnd, WM_ERASEBKGND);
+    m_edit.DoValidation(1);
+    EXPECT_FALSE(spy.Seen().empty());
 }
 
 TEST_F(SuperEditVerdict, CheckFunctionsValidateAndGiveTheBrush)

@@ -1,6 +1,8 @@
 // Which cell a button message hits. A right press is sent: the list view waits for the release of a left one.
 #include "SortListFixture.h"
 
+#include "MessageSpy.h"
+
 namespace
 {
 
@@ -99,4 +101,25 @@ TEST_F(ClickPos, SetCellHighlightRedrawsItsRowOnly)
     EXPECT_FALSE(NeedsRedraw(0));
     EXPECT_TRUE(NeedsRedraw(1));
     EXPECT_FALSE(NeedsRedraw(2));
+}
+
+TEST_F(ClickPos, APressRedrawsTheFormerRowAndThenItsOwn)
+{
+    FillColumn({L"a", L"b", L"c"});
+    m_list.SetCellHighlight(true, 2, 0);
+    const MessageSpy spy(m_list.m_hWnd, LVM_REDRAWITEMS);
+    Press(Centre(1, 0));
+    EXPECT_EQ((std::vector<MessageSpy::Parameters>{{2, 2}, {1, 1}}), spy.Seen());
+}
+
+TEST_F(ClickPos, ARowThatIsPartlyInViewIsHit)
+{
+    FillColumn(std::vector<std::wstring>(200, L"a"));
+    const int row = m_list.GetTopIndex() + m_list.GetCountPerPage();
+    CRect bounds;
+    m_list.GetItemRect(row, &bounds, LVIR_BOUNDS);
+    m_list.SetWindowPos(NULL, 0, 0, bounds.right + 50, bounds.top + bounds.Height() / 2, SWP_NOMOVE | SWP_NOZORDER);
+    ASSERT_EQ(row, m_list.GetTopIndex() + m_list.GetCountPerPage());
+    Press(CPoint(bounds.left + 10, bounds.top + 1));
+    EXPECT_EQ(Cell(row, 0), Get());
 }

@@ -320,6 +320,16 @@ TEST_F(EditableListEnd, ButtonEndsTheEditAndThenTellsTheCell)
     EXPECT_EQ((Notes{L"end 1,1 r1c1", L"message 1,1"}), After([this] { ClickButton(); })) << "kept open";
 }
 
+TEST_F(EditableListEnd, ButtonWithoutAnEditTellsTheCellOfNoEdit)
+{
+    const auto click = [this] { List().SendMessage(WM_COMMAND, MAKEWPARAM(kButtonId, BN_CLICKED)); };
+    List().ShowInPlaceEditBtn(1, 1, EditOwner::kMessage, L"");
+    List().EndEdit();
+    TakeNotes();
+    click();
+    EXPECT_EQ((Notes{L"message -100,-100"}), TakeNotes());
+}
+
 TEST_F(EditableListEnd, ButtonWithTheFocusKeepsTheEditOpen)
 {
     AnswerWithButton();

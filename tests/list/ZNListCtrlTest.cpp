@@ -377,6 +377,17 @@ TEST_F(EditableList, ClickOnTheCellThatIsBeingEditedSendsNothingAndKeepsTheEdito
     }
 }
 
+TEST_F(EditableList, ClickOnTheCellThatIsBeingEditedMakesItTheLastCell)
+{
+    List().SetZNListCtrlStyle(ZNLCS_DEFAULTEXTRA);
+    List().ShowInPlaceEdit(2, 1, L"");
+    ClickCell(2, 1);
+    List().EndEdit();
+    TakeNotes();
+    ClickCell(2, 0); // not the first click on this row any more
+    EXPECT_EQ((Notes{L"begin 2,0 r2c0"}), TakeNotes());
+}
+
 TEST_F(EditableList, EditorWhoseCellWasClickedStillEndsWithTheFocus)
 {
     List().ShowInPlaceEdit(1, 2, L"open");

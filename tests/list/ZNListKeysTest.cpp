@@ -1,6 +1,8 @@
 // The editable list: what keys do. Where they lead is tested with the rules; here, what the list does about it.
 #include "EditableListFixture.h"
 
+#include "MessageSpy.h"
+
 namespace
 {
 
@@ -170,6 +172,15 @@ TEST_F(EditableListKeys, MovesWithoutAskingForAnEditorWhenToldSo)
     List().SetIfEnterNextEdit(true);
     EXPECT_TRUE(Press(VK_RETURN)); // the cell that the arrow led to
     EXPECT_EQ((Notes{L"begin 2,1 r2c1"}), TakeNotes());
+}
+
+TEST_F(EditableListKeys, KeyBringsTheWholeRowIntoView)
+{
+    AnswerWithEdit();
+    ClickCell(1, 1);
+    const MessageSpy spy(List().m_hWnd, LVM_ENSUREVISIBLE);
+    ASSERT_TRUE(Press(VK_DOWN));
+    EXPECT_EQ((std::vector<MessageSpy::Parameters>{{2, FALSE}}), spy.Seen());
 }
 
 TEST_F(EditableListKeys, KeyBringsItsRowIntoView)

@@ -1,6 +1,8 @@
 // The editable list: operations on rows.
 #include "EditableListFixture.h"
 
+#include "MessageSpy.h"
+
 namespace
 {
 
@@ -196,6 +198,15 @@ TEST_F(EditableListRows, InsertedRowIsBroughtIntoView)
     Create(LVS_REPORT, 200);
     EXPECT_EQ(200, List().InsItem(200));
     EXPECT_LE(200 - List().GetCountPerPage(), List().GetTopIndex());
+}
+
+TEST_F(EditableListRows, OnlyAMovedRowMayStayPartlyInView)
+{
+    const MessageSpy spy(List().m_hWnd, LVM_ENSUREVISIBLE);
+    List().UpItem(2);
+    List().InsItem(0);
+    List().DelItem(0);
+    EXPECT_EQ((std::vector<MessageSpy::Parameters>{{1, TRUE}, {0, FALSE}, {0, FALSE}}), spy.Seen());
 }
 
 TEST_F(EditableListRows, DeletingThreeSelectedRowsAnswersMinus2AndSelectsNothing)

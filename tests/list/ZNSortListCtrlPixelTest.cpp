@@ -245,6 +245,33 @@ TEST_F(SortListPicture, ColourBeatsHighlight)
     EXPECT_EQ(kRed, m_canvas.Pixel(swatch.CenterPoint().x, swatch.CenterPoint().y));
 }
 
+TEST_F(SortListPicture, TextsHaveNoBackgroundOfTheirOwn)
+{
+    Fill({{L"a", L"Red"}, {L"b", L"Red"}});
+    m_list.SetIsColorColumn(1, 1);
+    m_list.SetCellHighlight(true, 0, 0);
+    const COLORREF strange = RGB(1, 200, 3);
+    ::SetBkColor(m_canvas.Dc(), strange);
+    ::SetBkMode(m_canvas.Dc(), OPAQUE);
+    for (int column = 0; column < 2; ++column)
+    {
+        Ask(kCellStage, 0, column);
+        EXPECT_EQ(0, m_canvas.Count(Label(0, column), strange)) << "column " << column;
+    }
+}
+
+TEST_F(SortListPicture, TheHighlightedCellHasAFocusRectangle)
+{
+    FillColumn({L"", L""});
+    m_list.SetCellHighlight(true, 0, 0);
+    Ask(kCellStage, 0, 0);
+    const CRect label = Label(0, 0);
+    const CRect edge(label.left, label.top, label.right, label.top + 1);
+    const int plain = m_canvas.Count(edge, ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_GT(plain, 0); // dots
+    EXPECT_LT(plain, edge.Width());
+}
+
 TEST_F(SortListPicture, TheDeviceContextIsAsBefore)
 {
     Fill({{L"a", L"Red"}, {L"b", L"Red"}});

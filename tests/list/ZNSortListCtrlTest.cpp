@@ -1,6 +1,8 @@
 // Sorting: header clicks, arrows, item data, bad input.
 #include "SortListFixture.h"
 
+#include "MessageSpy.h"
+
 #include "list/SortText.h"
 
 #include <algorithm>
@@ -34,6 +36,19 @@ TEST_F(SortList, AOneColumnListSortsAndStillHasOneColumn)
     ClickHeading(0);
     EXPECT_EQ((Texts{L"c", L"b", L"a"}), Column(0));
     EXPECT_EQ(1, m_list.GetHeaderCtrl()->GetItemCount());
+}
+
+TEST_F(SortList, AOneColumnListHasASecondOneWhileItIsSorted)
+{
+    Fill({{L"b"}, {L"c"}, {L"a"}});
+    const MessageSpy inserted(m_list.m_hWnd, LVM_INSERTCOLUMNW);
+    m_list.SortColumn(0, 0, 1);
+    ASSERT_EQ(1u, inserted.Seen().size());
+    EXPECT_EQ(1u, inserted.Seen()[0].first);
+    FillColumn({L"b", L"a"});
+    const size_t before = inserted.Seen().size();
+    m_list.SortColumn(0, 0, 1);
+    EXPECT_EQ(before, inserted.Seen().size()); // this list has two anyway
 }
 
 TEST_F(SortList, AColumnSortsAsNumbersWhenRowZeroHoldsANumber)

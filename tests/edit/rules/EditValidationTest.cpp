@@ -165,6 +165,23 @@ TEST_F(EditValidation, JudgesTextsOfAnyLength)
     Expect(VVB_INVALID, BRUSH_ERROR, false, Validate(text.c_str()));
 }
 
+TEST_F(EditValidation, SignIsFollowedByNoBlankEvenIfBlanksAreAllowed)
+{
+    Use(VVE_SIGNED);
+    MarkChars(m_table, L" ");
+    Expect(VVB_INVALID, BRUSH_ERROR, false, Validate(L"- 1"));
+    Expect(VVB_INVALID, BRUSH_ERROR, false, Validate(L"1 2"));
+    Expect(VVB_VALID, BRUSH_VALID, true, Validate(L" -1 "));
+}
+
+TEST_F(EditValidation, FloatSyntaxOfAnotherSetIsHeldAgainstTheRangeOfThatSet)
+{
+    Use(VVE_DECIMAL);
+    CEditValidation validation(m_rules, L"4294967296", kStatusBefore);
+    validation.JudgeFloat();
+    Expect(VVB_TYPE_RANGE, BRUSH_WARNING, false, validation.Finish());
+}
+
 TEST_F(EditValidation, RangeIsCheckedOnlyOnRequest)
 {
     Use(VVE_DECIMAL);

@@ -23,6 +23,8 @@ const TextRow kTexts[] = {
     {"decimal null", VVE_DECIMAL, NULL, 0},
     {"decimal largest", VVE_DECIMAL, L"4294967295", 0},
     {"decimal one above", VVE_DECIMAL, L"4294967296", 1},
+    {"decimal run of eleven is read up to the sign", VVE_DECIMAL, L"12-34567890", 0},
+    {"decimal run of twelve is not read", VVE_DECIMAL, L"12-345678901", 1},
     {"decimal eleven digits are still read", VVE_DECIMAL, L"99999999999", 1},
     {"decimal twelve digits", VVE_DECIMAL, L"999999999999", 1},
     {"decimal negative", VVE_DECIMAL, L"-1", -1},
