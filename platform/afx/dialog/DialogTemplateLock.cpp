@@ -1,26 +1,7 @@
 #include "afx/dialog/DialogTemplateLock.h"
 
 #include "afx/app/Resource.h"
-
-namespace
-{
-// The extended form of a template, as far as it is needed. It is told from the plain one by its second word.
-#pragma pack(push, 2)
-struct ExtendedTemplate
-{
-    WORD version;
-    WORD signature;
-    DWORD helpId;
-    DWORD exStyle;
-    DWORD style;
-    WORD items;
-    short x;
-    short y;
-};
-#pragma pack(pop)
-
-const WORD ExtendedSignature = 0xFFFF;
-} // namespace
+#include "afx/dialog/ExtendedTemplate.h"
 
 CDialogTemplateLock::CDialogTemplateLock(LPCTSTR resourceName)
     : m_instance(AfxFindResourceHandle(resourceName, RT_DIALOG))
@@ -45,8 +26,7 @@ CDialogTemplateLock::~CDialogTemplateLock()
 bool CDialogTemplateLock::HasPlace(LPCDLGTEMPLATE dialogTemplate)
 {
     const DWORD placed = DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN;
-    const ExtendedTemplate* const extended = reinterpret_cast<const ExtendedTemplate*>(dialogTemplate);
-    if (extended->signature == ExtendedSignature)
+    if (const ExtendedTemplate* const extended = ExtendedTemplate::Of(dialogTemplate))
         return (extended->style & placed) != 0 || extended->x != 0 || extended->y != 0;
     return (dialogTemplate->style & placed) != 0 || dialogTemplate->x != 0 || dialogTemplate->y != 0;
 }

@@ -2,6 +2,8 @@
 
 #include "afx/app/Resource.h"
 #include "afx/dialog/DialogProcedure.h"
+#include "afx/dialog/DialogTemplateLock.h"
+#include "afx/dialog/TemplateFont.h"
 
 IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
 
@@ -192,12 +194,21 @@ bool CPropertyPage::Answer(UINT code, LRESULT& result)
     }
 }
 
-bool CPropertyPage::MakeSystemPage(PROPSHEETPAGE& page)
+bool CPropertyPage::MakeSystemPage(PROPSHEETPAGE& page, const TemplateFont& font)
 {
     page = m_psp;
     page.dwSize = sizeof(page);
-    if (page.dwFlags & PSP_DLGINDIRECT)
-        return page.pResource != nullptr;
-    page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
-    return ::FindResource(page.hInstance, page.pszTemplate, RT_DIALOG) != nullptr;
+    const bool indirect = (page.dwFlags & PSP_DLGINDIRECT) != 0;
+    if (!indirect)
+        page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
+    const CDialogTemplateLock lock =
+        indirect ? CDialogTemplateLock(page.pResource) : CDialogTemplateLock(page.pszTemplate);
+    if (lock.Get() == nullptr)
+        return false;
+    if (font.points == 0)
+        return true;
+    m_template = TemplateWithFont(lock.Get(), font);
+    page.pResource = reinterpret_cast<PROPSHEETPAGE_RESOURCE>(m_template.data());
+    page.dwFlags |= PSP_DLGINDIRECT;
+    return true;
 }

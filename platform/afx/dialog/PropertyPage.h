@@ -10,6 +10,9 @@
 //   OnQueryCancel / OnReset      Cancel: may it be? (FALSE: no) and it is. The base OnReset calls OnCancel
 //   OnWizardBack / Next / Finish the buttons of a wizard: 0 goes on, -1 stays; OnWizardFinish TRUE ends the wizard
 //
+// A page is shown in the font of the sheet whatever font its template names: the sheet keeps room for its pages in
+// units of its own font.
+//
 // A page whose template is missing cannot be shown: the sheet refuses to open, or to take it when it is open.
 #pragma once
 
@@ -17,7 +20,10 @@
 
 #include <prsht.h>
 
+#include <vector>
+
 class CPropertySheet;
+struct TemplateFont;
 
 class AFX_API CPropertyPage : public CDialog
 {
@@ -75,5 +81,7 @@ private:
     CPropertySheet* GetParentSheet() const;
     bool Answer(UINT code, LRESULT& result);
     // What the system is given; false when there is no template.
-    bool MakeSystemPage(PROPSHEETPAGE& page);
+    bool MakeSystemPage(PROPSHEETPAGE& page, const TemplateFont& font);
+
+    std::vector<BYTE> m_template; // what the system makes the window of, in the font of the sheet
 };

@@ -4,6 +4,8 @@
 #include "afx/app/WinApp.h"
 #include "afx/dialog/DialogCommands.h"
 #include "afx/dialog/DisabledWindow.h"
+#include "afx/dialog/ExtendedTemplate.h"
+#include "afx/dialog/TemplateFont.h"
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
@@ -19,21 +21,25 @@ const int CreationFailed = -1;
 const DWORD DefaultStyle = static_cast<DWORD>(-1);
 const int Buttons[] = {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP};
 
-// Both forms of a template begin with what is written here; the extended one is told by its second word.
-struct ExtendedHead
-{
-    WORD version;
-    WORD signature;
-    DWORD helpId;
-    DWORD exStyle;
-    DWORD style;
-};
-const WORD ExtendedSignature = 0xFFFF;
+// The templates that the system makes its sheets of.
+const int SheetTemplate = 1006;
+const int WizardTemplate = 1020;
 
 bool IsPushButton(HWND control)
 {
     const LRESULT code = ::SendMessage(control, WM_GETDLGCODE, 0, 0);
     return (code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+}
+
+// The system keeps room for the pages in units of the font of its sheets. Without a known template the pages keep
+// theirs.
+TemplateFont SheetFont(bool wizard)
+{
+    const HMODULE controls = ::GetModuleHandle(L"comctl32");
+    const LPCTSTR name = MAKEINTRESOURCE(wizard ? WizardTemplate : SheetTemplate);
+    const HRSRC resource = ::FindResource(controls, name, RT_DIALOG);
+    const HGLOBAL loaded = resource == nullptr ? nullptr : ::LoadResource(controls, resource);
+    return loaded == nullptr ? TemplateFont() : FontOfTemplate(static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)));
 }
 
 // The button's id as the result of a modal sheet, 0 when the button ends nothing.
@@ -135,7 +141,7 @@ void CPropertySheet::AddPage(CPropertyPage* page)
         return;
     }
     PROPSHEETPAGE systemPage = {};
-    if (!page->MakeSystemPage(systemPage))
+    if (!page->MakeSystemPage(systemPage, SheetFont(IsWizard())))
         AfxThrowInvalidArgException();
     const HPROPSHEETPAGE handle = ::CreatePropertySheetPage(&systemPage);
     if (handle == nullptr)
@@ -325,8 +331,7 @@ int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam)
     const CPropertySheet* const sheet = DYNAMIC_DOWNCAST(CPropertySheet, AfxGetThreadState()->m_pWndInit);
     if (message != PSCB_PRECREATE || sheet == nullptr || sheet->m_style == DefaultStyle)
         return 0;
-    ExtendedHead* const extended = reinterpret_cast<ExtendedHead*>(lParam);
-    if (extended->signature == ExtendedSignature)
+    if (ExtendedTemplate* const extended = ExtendedTemplate::Of(reinterpret_cast<void*>(lParam)))
     {
         extended->style = sheet->m_style | (extended->style & DS_SETFONT);
         extended->exStyle = sheet->m_exStyle;
@@ -341,9 +346,10 @@ int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam)
 bool CPropertySheet::MakePages()
 {
     m_systemPages.assign(static_cast<size_t>(GetPageCount()), PROPSHEETPAGE());
+    const TemplateFont font = SheetFont(IsWizard());
     for (int index = 0; index < GetPageCount(); ++index)
     {
-        if (!GetPage(index)->MakeSystemPage(m_systemPages[static_cast<size_t>(index)]))
+        if (!GetPage(index)->MakeSystemPage(m_systemPages[static_cast<size_t>(index)], font))
             return false;
     }
     return !m_systemPages.empty();
