@@ -26,6 +26,15 @@ const wchar_t kPlaceName[] = L"Gallery";
 const int kTitleSize = 120;
 const int kCodeSize = 90;
 
+// Shared: the system lets it go with the module.
+HICON LoadGalleryIcon(int widthMetric, int heightMetric)
+{
+    const int width = ::GetSystemMetrics(widthMetric);
+    const int height = ::GetSystemMetrics(heightMetric);
+    return static_cast<HICON>(
+        ::LoadImage(AfxGetResourceHandle(), MAKEINTRESOURCE(IDI_GALLERY), IMAGE_ICON, width, height, LR_SHARED));
+}
+
 CString WithReturns(CString text)
 {
     text.Replace(L"\n", L"\r\n");
@@ -89,6 +98,8 @@ BOOL CGalleryDlg::PreTranslateMessage(MSG* message)
 BOOL CGalleryDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
+    SetIcon(LoadGalleryIcon(SM_CXICON, SM_CYICON), TRUE);
+    SetIcon(LoadGalleryIcon(SM_CXSMICON, SM_CYSMICON), FALSE);
     m_tree.SubclassDlgItem(IDC_GALLERY_TREE, this);
     m_search.SubclassDlgItem(IDC_GALLERY_SEARCH, this);
     m_code.SubclassDlgItem(IDC_GALLERY_CODE, this);

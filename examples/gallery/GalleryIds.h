@@ -13,6 +13,7 @@
 #define IDC_GALLERY_PAGE_AREA 1006
 #define IDC_GALLERY_CODE_LABEL 1007
 #define IDC_GALLERY_CODE 1008
+#define IDI_GALLERY 1009
 
 // Validating edit: 1050 to 1099; each column has one control a row
 #define IDD_SUPER_EDIT_PAGE 1050

@@ -2,6 +2,7 @@
 
 #include "host/DrawingView.h"
 #include "host/MainFrame.h"
+#include "host/Resource.h"
 
 namespace arxhost
 {
@@ -14,6 +15,14 @@ BEGIN_MESSAGE_MAP(DrawingFrame, CMDIChildWnd)
 END_MESSAGE_MAP()
 
 DrawingFrame::DrawingFrame(AcApDocument* document) : m_drawing(document) {}
+
+BOOL DrawingFrame::PreCreateWindow(CREATESTRUCT& create)
+{
+    const HICON icon = ::LoadIcon(AfxGetInstanceHandle(), MAKEINTRESOURCE(IDR_DRAWING));
+    create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW),
+                                           reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon);
+    return CMDIChildWnd::PreCreateWindow(create);
+}
 
 int DrawingFrame::OnCreate(LPCREATESTRUCT create)
 {

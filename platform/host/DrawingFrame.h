@@ -19,6 +19,8 @@ public:
     DrawingView& View() const { return *m_view; }
 
 protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
     afx_msg void OnSize(UINT type, int cx, int cy);

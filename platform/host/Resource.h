@@ -3,6 +3,7 @@
 #define ARXHOST_RESOURCE_H
 
 #define IDR_HOST 101
+#define IDR_DRAWING 102
 
 // Menu commands; each stands for a command line, see MenuCommands.cpp.
 #define ID_HOST_FIRST 0x8000

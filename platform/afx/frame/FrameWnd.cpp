@@ -61,6 +61,20 @@ CMenu* ParentOfMenu(CMenu* menu, HWND frame)
         return menu;
     return CMenu::FromHandle(MenuThatHolds(tracked != nullptr ? tracked : ::GetMenu(frame), menu->m_hMenu));
 }
+
+LPCTSTR FrameClass(HICON icon)
+{
+    return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1),
+                               icon);
+}
+
+// An icon belongs to a window class, so a frame with one has a class of its own.
+LPCTSTR ClassWithIcon(LPCTSTR name)
+{
+    if (!ResourceExists(name, RT_GROUP_ICON))
+        return nullptr;
+    return FrameClass(::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name));
+}
 } // namespace
 
 CFrameWnd::CFrameWnd() = default;
@@ -97,7 +111,8 @@ BOOL CFrameWnd::LoadFrame(UINT resourceId, DWORD style, CWnd* parent, CCreateCon
     CString title;
     if (text.LoadString(resourceId))
         AfxExtractSubString(title, text, 0);
-    if (!Create(nullptr, title, style, rectDefault, parent, ResourceExists(name, RT_MENU) ? name : nullptr, 0, context))
+    const LPCTSTR menu = ResourceExists(name, RT_MENU) ? name : nullptr;
+    if (!Create(ClassWithIcon(name), title, style, rectDefault, parent, menu, 0, context))
         return FALSE;
     m_hMenuDefault = ::GetMenu(m_hWnd);
     if (ResourceExists(name, RT_ACCELERATOR))
@@ -265,8 +280,7 @@ int CFrameWnd::OnCreateHelper(LPCREATESTRUCT create, CCreateContext* context)
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& create)
 {
     if (create.lpszClass == nullptr)
-        create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
-                                               reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+        create.lpszClass = FrameClass(nullptr);
     return CWnd::PreCreateWindow(create);
 }
 

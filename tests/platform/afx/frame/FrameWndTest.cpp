@@ -1,5 +1,7 @@
 #include "FrameFixture.h"
 
+#include "FrameIds.h"
+
 class FrameWnd : public FrameFixture
 {
 protected:
@@ -41,6 +43,27 @@ TEST_F(FrameWnd, TheApplicationIsAskedLast)
     EXPECT_TRUE(m_frame->OnCmdMsg(ID_APP_EXIT, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(AfxGetApp(), info.pTarget);
     EXPECT_FALSE(m_frame->OnCmdMsg(ID_NOBODYS_COMMAND, CN_COMMAND, nullptr, &info));
+}
+
+// LoadFrame takes from the resources of its number what there is.
+
+TEST_F(FrameWnd, LoadsTheIconOfItsNumber)
+{
+    TestFrame* const frame = new TestFrame; // deletes itself with its window
+    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME_WITH_ICON));
+    const HICON icon = ::LoadIcon(AfxGetInstanceHandle(), MAKEINTRESOURCE(IDR_FRAME_WITH_ICON));
+    ASSERT_NE(nullptr, icon);
+    EXPECT_EQ(icon, reinterpret_cast<HICON>(::GetClassLongPtr(frame->m_hWnd, GCLP_HICON)));
+    EXPECT_NE(0u, ::GetClassLongPtr(frame->m_hWnd, GCLP_HICONSM));
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameWnd, WithoutAnIconOfItsNumberItHasNone)
+{
+    TestFrame* const frame = new TestFrame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME_WITH_ICON + 1));
+    EXPECT_EQ(0u, ::GetClassLongPtr(frame->m_hWnd, GCLP_HICON));
+    frame->DestroyWindow();
 }
 
 // Menus are brought up to date before they are shown.
