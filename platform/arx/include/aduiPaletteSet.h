@@ -37,9 +37,10 @@ public:
     virtual BOOL Create(LPCTSTR lpszTitle, DWORD dwStyle, const RECT& rect, CWnd* pParent,
                         DWORD dwPaletteSetStyle = PSS_PROPERTIES_MENU | PSS_AUTO_ROLLUP | PSS_CLOSE_BUTTON);
 
-    // Palettes are borrowed: their owner destroys them. AddPalette answers the index, -1 on failure (NULL, without a
-    // window, already there). The first palette added becomes the active one. RemovePalette hides the palette and
-    // activates its neighbour; FALSE for a bad index.
+    // Palettes are borrowed: their owner destroys them, before the set or behind it; one whose window ends is taken out
+    // of the set. AddPalette answers the index, -1 on failure (NULL, without a window, already there). The first
+    // palette added becomes the active one. RemovePalette hides the palette and activates its neighbour; FALSE for a
+    // bad index.
     int AddPalette(CAdUiPalette* pPalette);
     BOOL RemovePalette(int nPaletteIndex);
     int GetPaletteCount() const;
@@ -87,8 +88,9 @@ protected:
     virtual void LayoutSaving(arxui::PaletteLayout& layout);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnParentNotify(UINT message, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 

@@ -128,6 +128,8 @@ void CAdUiDockControlBar::EnableDocking(DWORD dwDockStyle)
 
 void CAdUiDockControlBar::RestoreControlBar(int nPreferredDockBar, const CRect* pRect)
 {
+    if (GetSafeHwnd() == NULL)
+        return;
     arxui::PaletteLayout saved;
     if (m_parts->hasToolId && arxui::ReadLayout(m_parts->toolId, saved))
     {

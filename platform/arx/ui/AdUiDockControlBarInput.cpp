@@ -93,7 +93,8 @@ void CAdUiDockControlBar::CloseByUser()
 
 void CAdUiDockControlBar::SetRolledUpState(bool rolledUp)
 {
-    if (m_parts->roll.SetRolledUp(rolledUp && IsFloating()) != arxui::RollUpState::Change::None)
+    if (GetSafeHwnd() != NULL &&
+        m_parts->roll.SetRolledUp(rolledUp && IsFloating()) != arxui::RollUpState::Change::None)
         ApplyLayout();
 }
 

@@ -25,6 +25,7 @@ BEGIN_MESSAGE_MAP(CAdUiPaletteSet, CAdUiDockControlBar)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
+    ON_WM_PARENTNOTIFY()
 END_MESSAGE_MAP()
 
 CAdUiPaletteSet::CAdUiPaletteSet(int nStyle)
@@ -46,7 +47,7 @@ BOOL CAdUiPaletteSet::Create(LPCTSTR lpszTitle, DWORD dwStyle, const RECT& rect,
 
 int CAdUiPaletteSet::AddPalette(CAdUiPalette* pPalette)
 {
-    if (pPalette == NULL || pPalette->GetSafeHwnd() == NULL ||
+    if (GetSafeHwnd() == NULL || pPalette == NULL || pPalette->GetSafeHwnd() == NULL ||
         std::find(m_palettes.begin(), m_palettes.end(), pPalette) != m_palettes.end())
         return -1;
     if (pPalette->GetParent() != this)
@@ -305,6 +306,16 @@ void CAdUiPaletteSet::OnDestroy()
 void CAdUiPaletteSet::OnSize(UINT nType, int cx, int cy)
 {
     CAdUiDockControlBar::OnSize(nType, cx, cy);
+}
+
+void CAdUiPaletteSet::OnParentNotify(UINT message, LPARAM lParam)
+{
+    CAdUiDockControlBar::OnParentNotify(message, lParam);
+    const HWND child = reinterpret_cast<HWND>(lParam);
+    const auto ending = std::find_if(m_palettes.begin(), m_palettes.end(),
+                                     [&](CAdUiPalette* palette) { return palette->GetSafeHwnd() == child; });
+    if (LOWORD(message) == WM_DESTROY && ending != m_palettes.end())
+        RemovePalette(static_cast<int>(ending - m_palettes.begin()));
 }
 
 void CAdUiPaletteSet::ShowActive()

@@ -88,6 +88,49 @@ TEST_F(PaletteSet, BadPalettesAndIndexesAreRefused)
     EXPECT_EQ(NULL, set.GetPalette(7));
 }
 
+TEST_F(PaletteSet, PaletteThatEndsBeforeItsSetIsTakenOut)
+{
+    SampleSet& set = MakeSet();
+    {
+        SamplePalette brief;
+        brief.Create(WS_CHILD | WS_VISIBLE, L"图层", &set);
+        ASSERT_EQ(1, set.AddPalette(&brief));
+        set.SetActivePalette(1);
+    }
+    EXPECT_EQ(1, set.GetPaletteCount());
+    EXPECT_EQ(&Palette(), set.GetActivePalette());
+    m_palette.reset();
+    EXPECT_EQ(0, set.GetPaletteCount());
+    EXPECT_EQ(NULL, set.GetActivePalette());
+    set.SaveLayout(); // asks every palette that is left
+}
+
+TEST_F(PaletteSet, PaletteWithANewWindowIsTakenAgain)
+{
+    SampleSet& set = MakeSet();
+    Palette().DestroyWindow();
+    EXPECT_EQ(-1, set.AddPalette(&Palette()));
+    Palette().Create(WS_CHILD | WS_VISIBLE, L"消息查看", &set);
+    EXPECT_EQ(0, set.AddPalette(&Palette()));
+}
+
+TEST_F(PaletteSet, WithoutAWindowItTakesNothingAndStaysWhereItIs)
+{
+    MakeSet().DockControlBar(AFX_IDW_DOCKBAR_LEFT);
+    EndSet(); // leaves a saved layout for the tool
+    SampleSet set;
+    set.SetToolID(&g_sampleTool);
+    set.EnableDocking(CBRS_ALIGN_ANY);
+    set.RestoreControlBar();
+    set.RollUp();
+    EXPECT_EQ(NULL, set.GetSafeHwnd());
+    EXPECT_TRUE(set.IsFloating());
+    EXPECT_FALSE(set.GetRolledUp());
+    EXPECT_EQ(NULL, set.GetFloatingFrame());
+    MakeSet();
+    EXPECT_EQ(-1, set.AddPalette(&Palette()));
+}
+
 TEST_F(PaletteSet, TabIsChosenByAClick)
 {
     SampleSet& set = MakeSet();
