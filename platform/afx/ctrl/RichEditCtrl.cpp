@@ -2,6 +2,8 @@
 
 #include "afx/gdi/DC.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CRichEditCtrl, CWnd)
 
 namespace
@@ -77,7 +79,8 @@ long CRichEditCtrl::GetTextLengthEx(DWORD flags, UINT codePage) const
 
 int CRichEditCtrl::GetTextRange(int first, int last, CString& text) const
 {
-    const int length = last < 0 ? GetTextLengthEx(GTL_DEFAULT) - first : last - first;
+    const int end = GetTextLengthEx(GTL_DEFAULT);
+    const int length = (last < 0 ? end : std::min(last, end)) - first;
     if (length <= 0)
     {
         text.Empty();

@@ -3,6 +3,8 @@
 #include "afx/menu/Menu.h"
 #include "afx/wnd/Wnd.h"
 
+#include <algorithm>
+
 namespace
 {
 const UINT Popup = UINT(-1); // what GetMenuItemID answers for an item that opens a submenu
@@ -37,10 +39,16 @@ bool PrepareItem(CCmdUI& state)
     return state.m_nID != 0 && state.m_nID != Popup;
 }
 
+// A menu that is gone has no items; the system says -1.
+UINT ItemCount(const CMenu& menu)
+{
+    return static_cast<UINT>(std::max(0, ::GetMenuItemCount(menu.m_hMenu)));
+}
+
 // A handler may have removed or added items of the menu (lists of recent files do).
 void FollowChangedCount(CCmdUI& state)
 {
-    const UINT count = state.m_pMenu->GetMenuItemCount();
+    const UINT count = ItemCount(*state.m_pMenu);
     if (count < state.m_nIndexMax)
     {
         const UINT gone = state.m_nIndexMax - count;
@@ -146,7 +154,7 @@ void AfxUpdateMenuItems(CMenu* menu, CMenu* parentMenu, CCmdTarget* target, BOOL
     CCmdUI state;
     state.m_pMenu = menu;
     state.m_pParentMenu = parentMenu;
-    state.m_nIndexMax = menu->GetMenuItemCount();
+    state.m_nIndexMax = ItemCount(*menu);
     for (; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex)
     {
         if (!PrepareItem(state))

@@ -62,7 +62,8 @@ BOOL AFXAPI AfxRegisterClass(WNDCLASS* windowClass)
 
 BOOL AFXAPI AfxUnregisterClass(LPCTSTR className, HINSTANCE instance)
 {
-    Classes().Remove(instance, className);
+    if (!IS_INTRESOURCE(className))
+        Classes().Remove(instance, className);
     return ::UnregisterClass(className, instance);
 }
 

@@ -5,6 +5,8 @@
 #include "acedads.h"
 #include "arx/db/AdsNames.h"
 
+#include <cerrno>
+#include <cmath>
 #include <cwchar>
 #include <string>
 
@@ -17,7 +19,7 @@ namespace
 const size_t kLongestAnswer = 132;
 const size_t kNumberSize = 64;
 
-// Reads all of the text as a number by `parse`, one of the C library's.
+// Reads all of the text as a number by `parse`, one of the C library's. What the type cannot hold is no number.
 template<class Number, class Parse>
 int GetNumber(const ACHAR* prompt, Number* result, Parse parse)
 {
@@ -27,8 +29,9 @@ int GetNumber(const ACHAR* prompt, Number* result, Parse parse)
         return result == nullptr ? RTERROR : RTCAN;
     }
     wchar_t* end = nullptr;
+    errno = 0;
     const auto value = parse(answer.c_str(), &end);
-    if (end == answer.c_str() || *end != 0)
+    if (end == answer.c_str() || *end != 0 || errno == ERANGE || !std::isfinite(static_cast<double>(value)))
     {
         return RTREJ;
     }

@@ -95,6 +95,9 @@ TEST_F(RichEdit, LinesAndRangesAreFound)
     EXPECT_STREQ(L"seco", part);
     EXPECT_EQ(5, m_edit.GetTextRange(18, -1, part));
     EXPECT_STREQ(L"third", part);
+    EXPECT_EQ(5, m_edit.GetTextRange(18, INT_MAX, part));
+    EXPECT_STREQ(L"third", part);
+    EXPECT_EQ(0, m_edit.GetTextRange(100, -1, part));
     EXPECT_EQ(0, m_edit.GetTextRange(7, 7, part));
     EXPECT_TRUE(part.IsEmpty());
     FINDTEXTEX find = {};

@@ -21,6 +21,7 @@ public:
     int m_recentUpdates = 0;
     UINT m_recentsToKeep = 0;
     int m_subUpdates = 0;
+    bool m_endsMenu = false;
 
 protected:
     afx_msg void OnHandled() {}
@@ -33,6 +34,8 @@ protected:
             state->SetCheck(m_check);
         if (!m_text.IsEmpty())
             state->SetText(m_text);
+        if (m_endsMenu)
+            state->m_pMenu->DestroyMenu();
     }
     // As a list of recent files does: the first item's handler makes the whole list.
     afx_msg void OnUpdateRecent(CCmdUI* state)
@@ -163,6 +166,14 @@ TEST_F(CmdUI, AListThatIsRebuiltIsFollowed)
         for (UINT index = 0; index < kept; ++index)
             m_menu.DeleteMenu(0, MF_BYPOSITION);
     }
+}
+
+TEST_F(CmdUI, AMenuThatAHandlerDestroysEndsTheUpdate)
+{
+    m_target.m_endsMenu = true;
+    Update();
+    EXPECT_EQ(nullptr, m_menu.m_hMenu);
+    Update(); // a menu that is gone from the start
 }
 
 TEST_F(CmdUI, ASubmenuIsRepresentedByItsFirstItemAndLeftAlone)

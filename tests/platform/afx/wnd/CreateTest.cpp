@@ -184,6 +184,20 @@ TEST(WindowClass, TheSameWishesGiveTheSameClass)
     EXPECT_NE(first, AfxRegisterWndClass(CS_DBLCLKS | CS_SAVEBITS, ::LoadCursor(nullptr, IDC_ARROW)));
 }
 
+TEST(WindowClass, IsUnregisteredByItsNameOrItsAtom)
+{
+    WNDCLASS windowClass = {};
+    windowClass.lpfnWndProc = ::DefWindowProc;
+    windowClass.hInstance = ::GetModuleHandle(nullptr);
+    windowClass.lpszClassName = L"framework test class of a number";
+    const ATOM atom = ::RegisterClass(&windowClass);
+    ASSERT_NE(0, atom);
+    EXPECT_TRUE(AfxUnregisterClass(MAKEINTATOM(atom), windowClass.hInstance));
+    ASSERT_TRUE(AfxRegisterClass(&windowClass));
+    EXPECT_TRUE(AfxUnregisterClass(windowClass.lpszClassName, windowClass.hInstance));
+    EXPECT_FALSE(AfxUnregisterClass(windowClass.lpszClassName, windowClass.hInstance));
+}
+
 TEST(WindowClass, RegisteringTwiceIsNoError)
 {
     WNDCLASS windowClass = {};

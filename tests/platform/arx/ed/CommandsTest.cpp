@@ -221,6 +221,14 @@ TEST_F(Commands, TakeTheirAnswersFromTheLine)
     EXPECT_EQ(Run(L"READANSWERS box"), L"box|?|?|?");
 }
 
+TEST_F(Commands, RefuseNumbersThatTheirTypeCannotHold)
+{
+    Add(L"READANSWERS", &ReadAnswers);
+    EXPECT_EQ(Run(L"READANSWERS box 99999999999 1e999 rest"), L"box|?|?|rest");
+    EXPECT_EQ(Run(L"READANSWERS box -99999999999 inf rest"), L"box|?|?|rest");
+    EXPECT_EQ(Run(L"READANSWERS box 1 nan rest"), L"box|2|?|rest");
+}
+
 class Answering : public arxhost::IHostUi
 {
 public:
