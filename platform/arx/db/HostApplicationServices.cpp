@@ -1,30 +1,12 @@
 #include "dbapserv.h"
 
 #include "adesk.h"
+#include "arx/rx/ModuleFile.h"
 
 #include <cwchar>
 #include <string>
 
 #include "arx/WindowsTypes.h"
-
-namespace
-{
-
-bool IsFile(const std::wstring& path)
-{
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
-std::wstring BesideProgram(const ACHAR* fileName)
-{
-    wchar_t path[MAX_PATH] = L"";
-    GetModuleFileNameW(NULL, path, MAX_PATH);
-    const std::wstring program(path);
-    return program.substr(0, program.find_last_of(L'\\') + 1) + fileName;
-}
-
-} // namespace
 
 AcDbHostApplicationServices::AcDbHostApplicationServices() : m_workingDatabase(nullptr) {}
 
@@ -42,11 +24,11 @@ Acad::ErrorStatus AcDbHostApplicationServices::findFile(ACHAR* fullPath, int siz
         return Acad::eInvalidInput;
     }
     std::wstring path = fileName;
-    if (!IsFile(path))
+    if (!arxrx::IsFile(path))
     {
-        path = BesideProgram(fileName);
+        path = arxrx::ProgramFolder() + fileName;
     }
-    if (!IsFile(path))
+    if (!arxrx::IsFile(path))
     {
         return Acad::eFileNotFound;
     }

@@ -26,20 +26,6 @@ namespace arxhost
 namespace
 {
 
-std::wstring FullPath(const std::wstring& path)
-{
-    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-    std::wstring full(size, L'\0');
-    full.resize(size == 0 ? 0 : GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
-    return full;
-}
-
-bool IsFile(const std::wstring& path)
-{
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
 void Fail(OpenResult& result, Acad::ErrorStatus status, const std::wstring& message)
 {
     result.status = status;
@@ -94,8 +80,8 @@ AcApDocument* NewDocument(const wchar_t* title)
 AcApDocument* OpenDocument(const wchar_t* path, OpenResult& result)
 {
     result = OpenResult();
-    const std::wstring fullPath = FullPath(path == nullptr ? L"" : path);
-    if (!IsFile(fullPath))
+    const std::wstring fullPath = arxrx::FullPath(path == nullptr ? L"" : path);
+    if (!arxrx::IsFile(fullPath))
     {
         Fail(result, Acad::eFileNotFound, ReadTrouble(fullPath) + L"：“" + fullPath + L"”。");
         return nullptr;
@@ -283,19 +269,9 @@ std::vector<std::wstring> CommandNames()
     return arxed::CommandStack::Instance().GlobalNames();
 }
 
-void AddModuleFolder(const wchar_t* folder)
-{
-    DynamicLinker::Instance().AddFolder(folder == nullptr ? L"" : folder);
-}
-
 std::vector<std::wstring> LoadedModules()
 {
     return DynamicLinker::Instance().Paths();
-}
-
-void SendToModules(AcRx::AppMsgCode message)
-{
-    DynamicLinker::Instance().Send(message);
 }
 
 void UnloadAllModules()

@@ -150,12 +150,8 @@ ARX_API bool IsCommandActive();
 // Global names, sorted.
 ARX_API std::vector<std::wstring> CommandNames();
 
-// Loader. Folders are looked through in the order in which they were added, after the module's and the program's own.
-ARX_API void AddModuleFolder(const wchar_t* folder);
-// Full paths, in the order of loading.
+// Loader. Full paths, in the order of loading.
 ARX_API std::vector<std::wstring> LoadedModules();
-// Sends the message to every loaded module, in the order of loading.
-ARX_API void SendToModules(AcRx::AppMsgCode message);
 // kQuitMsg to every module, then all of them unloaded, locked ones too, the last first.
 ARX_API void UnloadAllModules();
 

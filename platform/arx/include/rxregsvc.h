@@ -5,14 +5,15 @@
 #include "arx/Api.h"
 
 // Loads a module and starts it with kInitAppMsg. `moduleName` includes the extension; without a folder it is looked for
-// beside the module that asks, beside the host program and in the search folders of the dynamic linker.
+// beside the module that asks and beside the host program.
 // With `printit` a failure is reported on the command line.
 // `asCmd` false: succeeds as often as it is called and counts the calls; `asCmd` true: loads once, false when the
 // module is loaded already.
 ARX_API bool acrxLoadModule(const ACHAR* moduleName, bool printit, bool asCmd = false);
 
 // Takes one call of acrxLoadModule() back; the module goes with the last. `asCmd` true: unloads at once, unless other
-// modules still count on it. False when it is not loaded, locked, or answers kRetError to kUnloadAppMsg.
+// modules still count on it. False when it is not loaded, locked, still in kInitAppMsg, or answers kRetError to
+// kUnloadAppMsg.
 ARX_API bool acrxUnloadModule(const ACHAR* moduleName, bool asCmd = false);
 
 // Load and unload as the commands of the command line do.

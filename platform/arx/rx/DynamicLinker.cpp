@@ -136,7 +136,10 @@ bool DynamicLinker::unloadModule(const ACHAR* fileName, bool asCmd)
         module->references -= asCmd ? 0 : 1;
         return !asCmd;
     }
-    return !module->locked && Stop(*module);
+    // A module that is still in kInitAppMsg runs on when the caller returns.
+    const bool complete = std::none_of(m_starting.begin(), m_starting.end(),
+                                       [&](const ModulePtr& starting) { return starting.get() == module; });
+    return complete && !module->locked && Stop(*module);
 }
 
 bool DynamicLinker::Stop(Module& module)
@@ -227,12 +230,6 @@ void DynamicLinker::removeReactor(AcRxDLinkerReactor* reactor)
     m_reactors.Remove(reactor);
 }
 
-void DynamicLinker::AddFolder(const std::wstring& folder)
-{
-    const bool closed = folder.empty() || folder.back() == L'\\' || folder.back() == L'/';
-    m_folders.push_back(closed ? folder : folder + L'\\');
-}
-
 bool DynamicLinker::IsLoaded(const ACHAR* name) const
 {
     const Module* module = Find(name);
@@ -321,7 +318,6 @@ std::vector<std::wstring> DynamicLinker::SearchFolders() const
         folders.push_back(FolderOf(m_starting.back()->path));
     }
     folders.push_back(ProgramFolder());
-    folders.insert(folders.end(), m_folders.begin(), m_folders.end());
     return folders;
 }
 

@@ -34,7 +34,6 @@ public:
     void removeReactor(AcRxDLinkerReactor* reactor) override;
 
     // For the host.
-    void AddFolder(const std::wstring& folder);
     bool IsLoaded(const ACHAR* name) const;
     std::vector<std::wstring> Paths() const;
     void Send(AcRx::AppMsgCode message);
@@ -69,7 +68,6 @@ private:
     // Complete modules in the order of their completion; those in kInitAppMsg, the innermost last.
     Modules m_modules;
     Modules m_starting;
-    std::vector<std::wstring> m_folders;
     ReactorList<AcRxDLinkerReactor> m_reactors;
 };
 

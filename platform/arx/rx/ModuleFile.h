@@ -17,6 +17,10 @@ std::wstring WithExtension(const std::wstring& name);
 std::wstring FileNameOf(const std::wstring& path);
 std::wstring FolderOf(const std::wstring& path);
 std::wstring ProgramFolder();
+// True for a file, false for a folder and for nothing.
+bool IsFile(const std::wstring& path);
+// "" for no path at all.
+std::wstring FullPath(const std::wstring& path);
 
 // Full path of `name`: as it stands when it has a folder, else in the first of `folders` that holds it; "" otherwise.
 std::wstring FindModuleFile(const std::wstring& name, const std::vector<std::wstring>& folders);

@@ -220,6 +220,14 @@ TEST_F(Loader, ModuleMayRefuseToEnd)
     EXPECT_FALSE(acrxAppIsLoaded(L"LoaderClinging.arx"));
 }
 
+TEST_F(Loader, ModuleThatIsStartingIsNotUnloaded)
+{
+    ASSERT_TRUE(acrxLoadModule(L"LoaderImpatient.arx", true));
+    EXPECT_EQ(Take(), L"Impatient:1 refused ");
+    EXPECT_TRUE(acrxUnloadModule(L"LoaderImpatient.arx"));
+    EXPECT_EQ(Take(), L"Impatient:2 ");
+}
+
 TEST_F(Loader, LockedModuleStaysUntilTheHostEnds)
 {
     ASSERT_TRUE(acrxLoadModule(L"LoaderLocked.arx", true));
