@@ -95,7 +95,22 @@ BEGIN_MESSAGE_MAP(ColouringParent, Parent)
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
-template<class PARENT>
+// Sees what comes to its OnCmdMsg, where its own notifications and those of its children meet.
+class ListeningControl : public Control
+{
+public:
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo) override
+    {
+        lastId = id;
+        lastCode = static_cast<UINT>(code);
+        return Control::OnCmdMsg(id, code, extra, handlerInfo);
+    }
+
+    UINT lastId = 99;
+    UINT lastCode = 0;
+};
+
+template<class PARENT, class CONTROL = Control>
 struct Pair
 {
     Pair()
@@ -124,7 +139,7 @@ struct Pair
     }
 
     PARENT parent;
-    Control control;
+    CONTROL control;
 };
 } // namespace
 
@@ -163,6 +178,19 @@ TEST(Reflect, ANotifyThatTheControlDeclinesGetsTheParentsResult)
     pair.control.answer = FALSE;
     EXPECT_EQ(22, pair.Notify());
     EXPECT_EQ("control-notify parent-notify ", g_log);
+}
+
+TEST(Reflect, TheControlsOwnNotificationsHaveNoIdAndAMarkedMessage)
+{
+    Pair<Parent, ListeningControl> pair;
+    pair.Command(BN_CLICKED);
+    EXPECT_EQ(0u, pair.control.lastId);
+    EXPECT_EQ(BN_CLICKED, LOWORD(pair.control.lastCode));
+    EXPECT_EQ(WM_REFLECT_BASE + WM_COMMAND, HIWORD(pair.control.lastCode));
+    pair.Notify();
+    EXPECT_EQ(0u, pair.control.lastId);
+    EXPECT_EQ(LOWORD(TestCode), LOWORD(pair.control.lastCode));
+    EXPECT_EQ(WM_REFLECT_BASE + WM_NOTIFY, HIWORD(pair.control.lastCode));
 }
 
 TEST(Reflect, ColoursAreAskedOfTheControl)
