@@ -4,6 +4,7 @@
 
 #include <MsgCallbackImp.h>
 
+#include <stdexcept>
 #include <string>
 
 namespace bench
@@ -16,6 +17,7 @@ constexpr int kRuns = 5;
 constexpr int kChanges = 2000;
 constexpr int kQuestions = 1000000;
 constexpr int kDeep = 10000;
+constexpr DWORD kPatience = 60000; // milliseconds
 constexpr double kMicroseconds = 1e6;
 constexpr double kNanoseconds = 1e9;
 constexpr double kMostMicrosecondsOfAChange = 20;
@@ -44,8 +46,13 @@ BOOL CALLBACK TakeDialog(HWND window, LPARAM found)
 HWND ShownDialog()
 {
     HWND found = NULL;
+    const DWORD start = ::GetTickCount();
     while (found == NULL)
+    {
+        if (::GetTickCount() - start > kPatience)
+            throw std::runtime_error("the wait dialog did not come up");
         ::EnumWindows(&TakeDialog, reinterpret_cast<LPARAM>(&found));
+    }
     return found;
 }
 

@@ -85,13 +85,6 @@ void CommandPanel::PrintLine(const std::wstring& text)
     Print((m_atLineStart ? L"" : L"\n") + text + L"\n");
 }
 
-CString CommandPanel::HistoryText() const
-{
-    CString text;
-    m_history.GetWindowText(text);
-    return text;
-}
-
 void CommandPanel::TypeInto(wchar_t character)
 {
     m_input.Type(character);

@@ -26,8 +26,6 @@ public:
     void Print(const std::wstring& text);
     // Prints a line of its own, whatever stands before it.
     void PrintLine(const std::wstring& text);
-    // The text of the history, lines ending in \r\n.
-    CString HistoryText() const;
     void TypeInto(wchar_t character);
     void FocusInput();
 

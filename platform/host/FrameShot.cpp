@@ -1,5 +1,6 @@
 ﻿#include "host/FrameShot.h"
 
+#include "afx/gdi/ScreenDC.h"
 #include "arx/ed/FileTrouble.h"
 #include "arx/ui/GdiGuards.h"
 #include "host/DialogSearch.h"
@@ -85,20 +86,6 @@ BOOL CALLBACK PaintPopup(HWND window, LPARAM owner)
     return TRUE;
 }
 
-class ScreenDc
-{
-public:
-    ScreenDc() : m_dc(GetDC(nullptr)) {}
-    ~ScreenDc() { ReleaseDC(nullptr, m_dc); }
-    ScreenDc(const ScreenDc&) = delete;
-    ScreenDc& operator=(const ScreenDc&) = delete;
-
-    HDC Get() const { return m_dc; }
-
-private:
-    HDC m_dc;
-};
-
 // Wine keeps what was painted in memory and hands it to the display when the thread begins to wait for messages, not
 // when the batch of drawing calls is flushed: without a wait the picture lacks the last windows painted.
 void LetPaintingReachScreen()
@@ -109,14 +96,12 @@ void LetPaintingReachScreen()
 
 HBITMAP CopyScreen(const CRect& area)
 {
-    const ScreenDc screen;
-    const HDC memory = CreateCompatibleDC(screen.Get());
+    const CScreenDC screen;
+    CDC memory;
+    memory.Attach(CreateCompatibleDC(screen.Get()));
     const HBITMAP bitmap = CreateCompatibleBitmap(screen.Get(), area.Width(), area.Height());
-    {
-        const arxui::SelectGuard selected(memory, bitmap);
-        BitBlt(memory, 0, 0, area.Width(), area.Height(), screen.Get(), area.left, area.top, SRCCOPY);
-    }
-    DeleteDC(memory);
+    const arxui::SelectGuard selected(memory, bitmap);
+    BitBlt(memory, 0, 0, area.Width(), area.Height(), screen.Get(), area.left, area.top, SRCCOPY);
     return bitmap;
 }
 

@@ -141,7 +141,7 @@ BOOL CWinThread::OnIdle(LONG count)
         AfxLockTempMaps();
         AfxUnlockTempMaps(TRUE);
     }
-    return count < 0 || count == 0;
+    return count <= 0;
 }
 
 MSG* AFXAPI AfxGetCurrentMessage()

@@ -64,7 +64,6 @@ public:
         }
     }
 
-    size_t GetPermanentCount() const { return m_permanent.size(); }
     size_t GetTemporaryCount() const { return m_temporary.size(); }
 
 private:

@@ -123,6 +123,43 @@ void CWnd::CenterWindow(CWnd* alternate)
     ::SetWindowPos(m_hWnd, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+namespace
+{
+// Each bar takes its edge off the layout. The child that gets the rest is the result.
+HWND LetBarsTakeEdges(HWND window, UINT idFirst, UINT idLast, UINT idLeftOver, AFX_SIZEPARENTPARAMS& layout)
+{
+    HWND leftOver = nullptr;
+    for (HWND child = ::GetTopWindow(window); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        const UINT id = LOWORD(::GetDlgCtrlID(child));
+        if (id == idLeftOver)
+            leftOver = child;
+        else if (id >= idFirst && id <= idLast && CWnd::FromHandlePermanent(child) != nullptr)
+            ::SendMessage(child, WM_SIZEPARENT, 0, LPARAM(&layout));
+    }
+    return leftOver;
+}
+
+// What was asked for: the area that is left of a stretched layout, the size of what the bars take of another.
+void TellLayout(const AFX_SIZEPARENTPARAMS& layout, LPRECT result)
+{
+    if (layout.bStretch)
+        *result = layout.rect;
+    else
+        ::SetRect(result, 0, 0, layout.sizeTotal.cx, layout.sizeTotal.cy);
+}
+
+void PlaceLeftOver(HWND window, const RECT& border, AFX_SIZEPARENTPARAMS& layout)
+{
+    layout.rect.left += border.left;
+    layout.rect.top += border.top;
+    layout.rect.right -= border.right;
+    layout.rect.bottom -= border.bottom;
+    CWnd::FromHandle(window)->CalcWindowRect(&layout.rect);
+    AfxRepositionWindow(&layout, window, &layout.rect);
+}
+} // namespace
+
 void CWnd::RepositionBars(UINT idFirst, UINT idLast, UINT idLeftOver, UINT flags, LPRECT param, LPCRECT client,
                           BOOL stretch)
 {
@@ -133,43 +170,19 @@ void CWnd::RepositionBars(UINT idFirst, UINT idLast, UINT idLeftOver, UINT flags
     else
         GetClientRect(&layout.rect);
 
-    const bool query = (flags & ~UINT(reposExtra)) == reposQuery;
-    const int expectedBars = 8;
-    if (!query)
-        layout.hDWP = ::BeginDeferWindowPos(expectedBars);
-
-    HWND leftOver = nullptr;
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
-    {
-        const UINT id = LOWORD(::GetDlgCtrlID(child));
-        if (id == idLeftOver)
-            leftOver = child;
-        else if (id >= idFirst && id <= idLast && FromHandlePermanent(child) != nullptr)
-            ::SendMessage(child, WM_SIZEPARENT, 0, LPARAM(&layout));
-    }
-
-    if (query)
+    if ((flags & ~UINT(reposExtra)) == reposQuery)
     {
         ASSERT(param != nullptr);
-        if (stretch)
-            *param = layout.rect;
-        else
-            ::SetRect(param, 0, 0, layout.sizeTotal.cx, layout.sizeTotal.cy);
+        LetBarsTakeEdges(m_hWnd, idFirst, idLast, idLeftOver, layout);
+        TellLayout(layout, param);
         return;
     }
+    const int expectedBars = 8;
+    layout.hDWP = ::BeginDeferWindowPos(expectedBars);
+    const HWND leftOver = LetBarsTakeEdges(m_hWnd, idFirst, idLast, idLeftOver, layout);
+    const RECT noBorder = {};
     if (idLeftOver != 0 && leftOver != nullptr)
-    {
-        if (flags & reposExtra)
-        {
-            layout.rect.left += param->left;
-            layout.rect.top += param->top;
-            layout.rect.right -= param->right;
-            layout.rect.bottom -= param->bottom;
-        }
-        CWnd* const pane = FromHandle(leftOver);
-        pane->CalcWindowRect(&layout.rect);
-        AfxRepositionWindow(&layout, leftOver, &layout.rect);
-    }
+        PlaceLeftOver(leftOver, (flags & reposExtra) != 0 ? *param : noBorder, layout);
     if (layout.hDWP != nullptr)
         ::EndDeferWindowPos(layout.hDWP);
 }

@@ -34,7 +34,6 @@ public:
 
     // Null for null and unknown identifiers.
     ObjectRecord* Find(AcDbObjectId id) const;
-    static ObjectRecord* RecordOf(const AcDbObject& object) { return object.m_record; }
 
     // The new object is open for writing.
     ObjectRecord& Add(AcDbDatabase& database, AcDbObject& object);

@@ -22,7 +22,6 @@ private:
     void ParseHeader();
     void ParseHeaderVariable(std::string_view name);
     void ParseTables();
-    void ParseLayers();
     void AddLayer(const DxfRecord& record);
     void ParseBlocks();
     void ParseBlock();

@@ -29,7 +29,6 @@ struct MissingReference
 
 struct ARX_API DxfResult
 {
-    bool Succeeded() const { return error.empty(); }
     // Sums of the counts below.
     int ReadCount() const;
     int SkippedCount() const;

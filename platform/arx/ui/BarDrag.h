@@ -27,10 +27,6 @@ public:
     // The button went up: docks when the cursor is at an edge.
     void Finish(CPoint cursor);
 
-    // Whether the mouse has left the small box in which a press is still a click.
-    bool HasMoved() const { return m_moved; }
-    DockSide Target() const { return m_target; }
-
 private:
     void TrackPlace(CPoint cursor);
     void TrackSize(CPoint cursor);

@@ -1,4 +1,6 @@
-﻿#include "arx/ui/UiFont.h"
+﻿#include "afx/gdi/ScreenDC.h"
+
+#include "arx/ui/UiFont.h"
 
 #include "arx/ui/GdiGuards.h"
 
@@ -14,15 +16,14 @@ const int pointsPerInch = 72;
 
 HFONT MakeFont(const wchar_t* face, BYTE pitch)
 {
-    const HDC screen = GetDC(nullptr);
+    const CScreenDC screen;
     LOGFONTW font{};
-    font.lfHeight = -MulDiv(pointSize, GetDeviceCaps(screen, LOGPIXELSY), pointsPerInch);
+    font.lfHeight = -MulDiv(pointSize, GetDeviceCaps(screen.Get(), LOGPIXELSY), pointsPerInch);
     font.lfWeight = FW_NORMAL;
     font.lfCharSet = DEFAULT_CHARSET;
     font.lfQuality = CLEARTYPE_QUALITY;
     font.lfPitchAndFamily = pitch;
     std::wcsncpy(font.lfFaceName, face, LF_FACESIZE - 1);
-    ReleaseDC(nullptr, screen);
     return CreateFontIndirectW(&font);
 }
 

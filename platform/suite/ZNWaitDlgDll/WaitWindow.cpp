@@ -1,4 +1,6 @@
-﻿#include "suite/ZNWaitDlgDll/WaitWindow.h"
+﻿#include "afx/gdi/ScreenDC.h"
+
+#include "suite/ZNWaitDlgDll/WaitWindow.h"
 
 #include <algorithm>
 #include <wchar.h>
@@ -27,10 +29,8 @@ const UINT_PTR kBeatTimer = 1;
 
 int ScreenDpi()
 {
-    const HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
+    const CScreenDC screen;
+    return GetDeviceCaps(screen.Get(), LOGPIXELSY);
 }
 
 HFONT MakeFont(int points, LONG weight)
@@ -188,13 +188,10 @@ HWND WaitWindow::MakeControl(const wchar_t* className, const wchar_t* text, DWOR
 
 int WaitWindow::HeightOf(HFONT font) const
 {
-    const HDC screen = GetDC(nullptr);
+    const CScreenDC screen;
+    const arxui::SelectGuard selected(screen.Get(), font);
     TEXTMETRICW metric = {};
-    {
-        const arxui::SelectGuard selected(screen, font);
-        GetTextMetricsW(screen, &metric);
-    }
-    ReleaseDC(nullptr, screen);
+    GetTextMetricsW(screen.Get(), &metric);
     return metric.tmHeight;
 }
 
