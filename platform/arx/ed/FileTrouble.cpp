@@ -1,6 +1,7 @@
 ﻿#include "FileTrouble.h"
 
 #include "arx/WindowsTypes.h"
+#include "arx/rx/ModuleFile.h"
 
 namespace arxhost
 {
@@ -53,14 +54,6 @@ DWORD TryToOpen(const std::wstring& path, DWORD access, DWORD share, DWORD how, 
     return 0;
 }
 
-std::wstring FullFolderOf(const std::wstring& path)
-{
-    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-    std::wstring full(size, L'\0');
-    full.resize(size == 0 ? 0 : GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
-    return full.substr(0, full.find_last_of(L'\\') + 1);
-}
-
 } // namespace
 
 std::wstring ReadTrouble(const std::wstring& path)
@@ -75,7 +68,7 @@ std::wstring ReadTrouble(const std::wstring& path)
 
 std::wstring WriteTrouble(const std::wstring& path)
 {
-    const std::wstring folder = FullFolderOf(path);
+    const std::wstring folder = arxrx::FolderOf(arxrx::FullPath(path));
     if (IsFolder(path))
     {
         return L"它是文件夹，请给出文件名";
