@@ -225,10 +225,19 @@ TEST_F(EditableListOwner, MayEndTheEditAgainWhenAnEditEnds)
 
 TEST_F(EditableListOwner, MayOpenAnotherEditorWhenAnEditEnds)
 {
-    EndInEveryWay([this] { List().ShowInPlaceEdit(0, 2, L"another"); });
-    EndInEveryWay([this] { List().ShowInPlaceEditBtn(0, 2, 0, L"another"); });
-    EndInEveryWay([this] { List().ShowInPlaceComboBox(0, 2, CBS_DROPDOWN, 0); });
-    EndInEveryWay([this] { List().ShowInPlaceDateTimeCtrl(0, 2, 0, L"2016-05-07"); });
+    const std::vector<Action> others = {
+        [this] { List().ShowInPlaceEdit(0, 2, L"another"); },
+        [this] { List().ShowInPlaceEditBtn(0, 2, 0, L"another"); },
+        [this] { List().ShowInPlaceComboBox(0, 2, CBS_DROPDOWN, 0); },
+        [this] { List().ShowInPlaceDateTimeCtrl(0, 2, 0, L"2016-05-07"); },
+    };
+    // In turn, beginning with another one for each answer: every way to end meets all of them.
+    const size_t ways = Ends().size();
+    size_t ended = 0;
+    EndInEveryWay([&] {
+        others[(ended + ended / ways) % others.size()]();
+        ++ended;
+    });
 }
 
 TEST_F(EditableListOwner, MayMoveTheFocusWhenAnEditEnds)
