@@ -3,97 +3,13 @@
 #include "EditableListFixture.h"
 
 #include "GdiCount.h"
+#include "ObjectCounter.h"
+#include "WindowCount.h"
 
 #include <afxdtctl.h>
 
-#include <algorithm>
-#include <cstdlib>
-#include <new>
-
-// The objects of the editors are counted by their size while a test runs. All allocation of the program passes here.
 namespace
 {
-
-size_t g_size = 0;
-std::vector<void*>* g_alive = nullptr;
-
-class ObjectCounter
-{
-public:
-    explicit ObjectCounter(size_t size)
-    {
-        m_alive.reserve(1000);
-        g_alive = &m_alive;
-        g_size = size;
-    }
-    ~ObjectCounter()
-    {
-        g_size = 0;
-        g_alive = nullptr;
-    }
-    ObjectCounter(const ObjectCounter&) = delete;
-    ObjectCounter& operator=(const ObjectCounter&) = delete;
-
-    size_t Alive() const { return m_alive.size(); }
-    size_t Made() const { return s_made; }
-    static size_t s_made;
-
-private:
-    std::vector<void*> m_alive;
-};
-
-size_t ObjectCounter::s_made = 0;
-
-} // namespace
-
-void* operator new(size_t size)
-{
-    void* const memory = std::malloc(size == 0 ? 1 : size);
-    if (memory == nullptr)
-        throw std::bad_alloc();
-    if (g_size != 0 && size == g_size && g_alive->size() < g_alive->capacity())
-    {
-        ++ObjectCounter::s_made;
-        g_alive->push_back(memory);
-    }
-    return memory;
-}
-
-void operator delete(void* memory) noexcept
-{
-    if (g_alive != nullptr)
-        g_alive->erase(std::remove(g_alive->begin(), g_alive->end(), memory), g_alive->end());
-    std::free(memory);
-}
-
-void operator delete(void* memory, size_t) noexcept
-{
-    operator delete(memory);
-}
-
-namespace
-{
-
-BOOL CALLBACK CountWindow(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<size_t*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK CountTree(HWND window, LPARAM count)
-{
-    ++*reinterpret_cast<size_t*>(count);
-    ::EnumChildWindows(window, &CountWindow, count);
-    return TRUE;
-}
-
-// All windows of the thread, tool tips included.
-size_t CountWindows()
-{
-    size_t count = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), &CountTree, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
 
 class EditableListOwner : public EditableListFixture
 {
@@ -571,7 +487,7 @@ TEST_F(EditableListOwner, ListThatGoesDownInAnyWayLeavesNothingBehind)
     {
         for (const Action& end : ends)
         {
-            size_t windows = 0;
+            int windows = 0;
             size_t objects = 0;
             for (int round = 0; round < 3; ++round) // the first round may load what stays
             {
@@ -601,7 +517,7 @@ TEST_F(EditableListOwner, ListThatGoesDownInAnyWayLeavesNothingBehind)
 
 TEST_F(EditableListOwner, ManyEditsLeaveNoWindowAndNoDrawingObjectBehind)
 {
-    size_t windows = 0;
+    int windows = 0;
     size_t objects = 0;
     for (int round = 0; round < 10; ++round)
     {
@@ -638,10 +554,10 @@ TEST_F(EditableListOwner, ObjectsOfTheEditorsEndWithTheirWindows)
         {
             Create();
             answers[i]();
-            const size_t made = ObjectCounter::s_made;
+            const size_t made = ObjectCounter::Made();
             const ObjectCounter counter(sizes[i]);
             ClickCell(1, 1);
-            EXPECT_LT(made, counter.Made());
+            EXPECT_LT(made, ObjectCounter::Made());
             EXPECT_LT(0u, counter.Alive());
             if (listFirst)
                 List().DestroyWindow();
