@@ -32,23 +32,6 @@ std::wstring WriteDrawing()
     return path;
 }
 
-std::wstring LongTextOf(HWND window)
-{
-    std::wstring text(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
-    text.resize(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(&text[0])));
-    return text;
-}
-
-BOOL CALLBACK TakeView(HWND window, LPARAM found)
-{
-    // The frame's client window has the same identifier as the views in it.
-    wchar_t className[64] = L"";
-    GetClassNameW(GetParent(GetParent(window)), className, 64);
-    if (GetDlgCtrlID(window) == AFX_IDW_PANE_FIRST && _wcsicmp(className, L"MDIClient") == 0)
-        *reinterpret_cast<HWND*>(found) = window;
-    return TRUE;
-}
-
 class EntityHoverInput : public testing::Test
 {
 protected:
@@ -57,7 +40,7 @@ protected:
         m_host.reset(new HostProcess(L"\"" + WriteDrawing() + L"\" /ld ZNKTControls.arx /ld entity_hover.arx /c HELP"));
         ASSERT_TRUE(WaitFor([&] { return HasStarted() || !m_host->IsRunning(); }, g_patience));
         ASSERT_TRUE(m_host->IsRunning());
-        EnumChildWindows(Frame(), &TakeView, reinterpret_cast<LPARAM>(&m_view));
+        m_view = FindDrawingView(Frame());
         ASSERT_TRUE(m_view != NULL);
         CRect client;
         GetClientRect(m_view, &client);
@@ -70,7 +53,7 @@ protected:
     HWND Frame() const { return GetAncestor(History(), GA_ROOT); }
 
     // The list of commands comes after everything is loaded and laid out.
-    bool HasStarted() const { return LongTextOf(History()).find(L"ENTITYHOVER") != std::wstring::npos; }
+    bool HasStarted() const { return TextOf(History()).find(L"ENTITYHOVER") != std::wstring::npos; }
 
     HWND Window() const { return GetParent(m_host->FindControl(g_richEdit, g_text)); }
     bool IsShown() const { return m_host->FindControl(g_richEdit, g_text) != NULL; }

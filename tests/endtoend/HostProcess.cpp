@@ -5,6 +5,7 @@
 namespace
 {
 
+constexpr int g_firstPane = 0xE900; // of every frame of the framework
 constexpr int g_longestText = 512;
 
 // What the list view of the other process reads and writes: one block of its memory.
@@ -40,6 +41,16 @@ BOOL CALLBACK SearchWindowsOfProcess(HWND window, LPARAM parameter)
     if (process == search.process)
         EnumChildWindows(window, &TakeMatchingControl, parameter);
     return search.found == NULL;
+}
+
+BOOL CALLBACK TakeView(HWND window, LPARAM found)
+{
+    // The frame's client window has the same identifier as the views in it.
+    wchar_t className[64] = L"";
+    GetClassNameW(GetParent(GetParent(window)), className, 64);
+    if (GetDlgCtrlID(window) == g_firstPane && _wcsicmp(className, L"MDIClient") == 0)
+        *reinterpret_cast<HWND*>(found) = window;
+    return TRUE;
 }
 
 } // namespace
@@ -110,7 +121,14 @@ std::wstring HostProcess::CellText(HWND list, int row, int column) const
 
 std::wstring TextOf(HWND window)
 {
-    wchar_t text[g_longestText] = L"";
-    SendMessageW(window, WM_GETTEXT, g_longestText, reinterpret_cast<LPARAM>(text));
+    std::wstring text(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
+    text.resize(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(&text[0])));
     return text;
+}
+
+HWND FindDrawingView(HWND frame)
+{
+    HWND view = NULL;
+    EnumChildWindows(frame, &TakeView, reinterpret_cast<LPARAM>(&view));
+    return view;
 }

@@ -33,5 +33,8 @@ private:
     void* m_remote; // memory inside the process, for texts that it hands over
 };
 
-// The text of a window of any process.
+// The text of a window of any process, however long.
 std::wstring TextOf(HWND window);
+
+// The view of a drawing in the host's main window; null when none is open.
+HWND FindDrawingView(HWND frame);

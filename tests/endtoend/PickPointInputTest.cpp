@@ -23,23 +23,6 @@ constexpr double g_centreX = 210;
 constexpr double g_centreY = 148.5;
 constexpr double g_height = 297;
 
-std::wstring LongTextOf(HWND window)
-{
-    std::wstring text(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
-    text.resize(SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(&text[0])));
-    return text;
-}
-
-BOOL CALLBACK TakeView(HWND window, LPARAM found)
-{
-    // The frame's client window has the same identifier as the views in it.
-    wchar_t className[64] = L"";
-    GetClassNameW(GetParent(GetParent(window)), className, 64);
-    if (GetDlgCtrlID(window) == AFX_IDW_PANE_FIRST && _wcsicmp(className, L"MDIClient") == 0)
-        *reinterpret_cast<HWND*>(found) = window;
-    return TRUE;
-}
-
 COLORREF PixelSum(const CRect& area)
 {
     const HDC screen = GetDC(NULL);
@@ -62,14 +45,14 @@ protected:
         ASSERT_TRUE(WaitFor([&] { return IsAsking() || !m_host->IsRunning(); }, g_patience));
         ASSERT_TRUE(m_host->IsRunning());
         m_frame = GetAncestor(m_host->FindControl(L"Edit", g_history), GA_ROOT);
-        EnumChildWindows(m_frame, &TakeView, reinterpret_cast<LPARAM>(&m_view));
+        m_view = FindDrawingView(m_frame);
         ASSERT_NE(nullptr, m_view);
         GetClientRect(m_view, &m_client);
         m_place = m_client.CenterPoint() + CPoint(m_client.Width() / 8, m_client.Height() / 8);
     }
 
     bool IsAsking() const { return TextOf(m_host->FindControl(L"Static", g_prompt)) == g_question; }
-    std::wstring History() const { return LongTextOf(m_host->FindControl(L"Edit", g_history)); }
+    std::wstring History() const { return TextOf(m_host->FindControl(L"Edit", g_history)); }
     bool HasPrinted(const wchar_t* text) const { return History().find(text) != std::wstring::npos; }
 
     CPoint OnScreen(CPoint point) const

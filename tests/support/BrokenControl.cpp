@@ -1,14 +1,16 @@
 #include "BrokenControl.h"
 
-class BrokenControl::Object : public IOleObject
+#include "ComObject.h"
+
+class BrokenControl::Object : public ComObject<IOleObject>
 {
 public:
-    explicit Object(BrokenControl& owner) : m_owner(owner)
+    explicit Object(BrokenControl& owner) : ComObject(0), m_owner(owner)
     {
         ++m_owner.m_created;
         ++m_owner.m_alive;
     }
-    virtual ~Object() { --m_owner.m_alive; }
+    ~Object() override { --m_owner.m_alive; }
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override
     {
@@ -17,14 +19,6 @@ public:
             return E_NOINTERFACE;
         AddRef();
         return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
     }
     STDMETHODIMP SetClientSite(IOleClientSite*) override { return E_FAIL; }
     STDMETHODIMP GetClientSite(IOleClientSite**) override { return E_FAIL; }
@@ -50,7 +44,6 @@ public:
 
 private:
     BrokenControl& m_owner;
-    ULONG m_references = 0;
 };
 
 STDMETHODIMP BrokenControl::CreateInstance(IUnknown*, REFIID id, void** object)

@@ -1,13 +1,15 @@
 #include "CountingBrowser.h"
 
+#include "ComObject.h"
+
 #include <olectl.h>
 
 // The control's own connection point, counted.
-class CountingBrowser::ConnectionPoint : public IConnectionPoint
+class CountingBrowser::ConnectionPoint : public ComObject<IConnectionPoint>
 {
 public:
-    ConnectionPoint(CountingBrowser& owner, IConnectionPoint* real) : m_owner(owner), m_real(real) {}
-    virtual ~ConnectionPoint() { m_real->Release(); }
+    ConnectionPoint(CountingBrowser& owner, IConnectionPoint* real) : ComObject(1), m_owner(owner), m_real(real) {}
+    ~ConnectionPoint() override { m_real->Release(); }
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override
     {
@@ -16,14 +18,6 @@ public:
             return E_NOINTERFACE;
         AddRef();
         return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
     }
 
     STDMETHODIMP GetConnectionInterface(IID* id) override { return m_real->GetConnectionInterface(id); }
@@ -61,15 +55,14 @@ public:
 private:
     CountingBrowser& m_owner;
     IConnectionPoint* m_real;
-    ULONG m_references = 1;
 };
 
 // What the container of the control holds. Interfaces that are not counted are the bare control's.
-class CountingBrowser::Shell : public IOleObject, public IConnectionPointContainer
+class CountingBrowser::Shell : public ComObject<IOleObject, IConnectionPointContainer>
 {
 public:
-    Shell(CountingBrowser& owner, IOleObject* real) : m_owner(owner), m_real(real) { ++m_owner.m_alive; }
-    virtual ~Shell()
+    Shell(CountingBrowser& owner, IOleObject* real) : ComObject(0), m_owner(owner), m_real(real) { ++m_owner.m_alive; }
+    ~Shell() override
     {
         m_real->Release();
         --m_owner.m_alive;
@@ -89,14 +82,6 @@ public:
             return E_NOINTERFACE;
         AddRef();
         return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
     }
 
     STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints**) override { return E_NOTIMPL; }
@@ -154,7 +139,6 @@ public:
 private:
     CountingBrowser& m_owner;
     IOleObject* m_real;
-    ULONG m_references = 0;
 };
 
 CountingBrowser::CountingBrowser(Refusal refusal) : m_refusal(refusal)
